@@ -1,0 +1,43 @@
+# Compiler and linker settings of the two libraries.
+#
+# The same flags on every build machine: SSE4.2 as the one instruction-set
+# level, never AVX and never -march=native. The libraries carry no C++
+# runtime: no exceptions, RTTI or thread-safe statics, and loops are not
+# turned into memcpy/memset calls, so that libqspsy8 needs nothing from libc
+# but the stack-protector routine.
+set(QSP_ISA_FLAGS -msse4.2 -mno-avx -mno-avx2 -mno-avx512f -mno-fma -mno-f16c)
+
+set(QSP_LIB_COMPILE_FLAGS
+  ${QSP_ISA_FLAGS}
+  -O3
+  -fno-exceptions -fno-rtti -fno-threadsafe-statics -fno-asynchronous-unwind-tables
+  -fno-tree-loop-distribute-patterns -fno-math-errno -fno-trapping-math
+  -fstack-protector-strong -fno-plt
+  -fvisibility=hidden -fvisibility-inlines-hidden
+  -Wall -Wextra)
+
+# No start files and no default libraries: the libraries have no static
+# constructors, and this keeps the weak runtime hooks of the start files
+# (__cxa_finalize, __gmon_start__ and the like) out of their imports.
+set(QSP_LIB_LINK_FLAGS -nostartfiles -nodefaultlibs -Wl,--no-undefined -Wl,-z,relro,-z,now -Wl,--as-needed)
+set(QSP_LIB_LINK_LIBS c gcc)
+
+if(QSP_SANITIZE)
+  set(QSP_SANITIZE_FLAGS -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(${QSP_SANITIZE_FLAGS})
+  add_link_options(${QSP_SANITIZE_FLAGS})
+  # The sanitizer runtimes need the ordinary start files and libraries.
+  set(QSP_LIB_LINK_FLAGS -Wl,--no-undefined)
+  set(QSP_LIB_LINK_LIBS "")
+endif()
+
+function(qsp_library_settings target version_script)
+  target_compile_options(${target} PRIVATE ${QSP_LIB_COMPILE_FLAGS})
+  target_link_options(${target} PRIVATE ${QSP_LIB_LINK_FLAGS}
+    "-Wl,--version-script=${version_script}")
+  target_link_libraries(${target} PRIVATE ${QSP_LIB_LINK_LIBS})
+  set_target_properties(${target} PROPERTIES
+    VERSION 12 SOVERSION 12
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+    LINK_DEPENDS "${version_script}")
+endfunction()

@@ -1,0 +1,149 @@
+/*
+ * qspdefs.h - element types, status values and selector codes shared by
+ * libqspsy8 (the signal-processing functions, <qsps.h>) and libqspcore
+ * (allocation and processor support, <qspcore.h>).
+ *
+ * Plain C; usable from C and C++. Everything here is a type or a constant.
+ */
+#ifndef QSPDEFS_H
+#define QSPDEFS_H
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ------------------------------------------------------------------------
+ * Element types. The type code in a function name (8u, 16sc, 32f, ...)
+ * names one of these. A complex element is a pair, real part first, and
+ * counts as one element in every length.
+ * ------------------------------------------------------------------------ */
+typedef unsigned char      Qsp8u;
+typedef signed char        Qsp8s;
+typedef unsigned short     Qsp16u;
+typedef short              Qsp16s;
+typedef unsigned int       Qsp32u;
+typedef int                Qsp32s;
+typedef unsigned long long Qsp64u;
+typedef long long          Qsp64s;
+typedef float              Qsp32f;
+typedef double             Qsp64f;
+/* IEEE 754 binary16, held as its raw bit pattern. */
+typedef unsigned short     Qsp16f;
+
+typedef struct { Qsp8s  re; Qsp8s  im; } Qsp8sc;
+typedef struct { Qsp16s re; Qsp16s im; } Qsp16sc;
+typedef struct { Qsp32s re; Qsp32s im; } Qsp32sc;
+typedef struct { Qsp64s re; Qsp64s im; } Qsp64sc;
+typedef struct { Qsp16f re; Qsp16f im; } Qsp16fc;
+typedef struct { Qsp32f re; Qsp32f im; } Qsp32fc;
+typedef struct { Qsp64f re; Qsp64f im; } Qsp64fc;
+
+/* ------------------------------------------------------------------------
+ * Status. Every function of libqspsy8 returns a QspStatus, except the
+ * allocators, qspsFree and qspsGetLibVersion.
+ *   0         success
+ *   negative  error: checked before anything is written, so the
+ *             destination is untouched
+ *   positive  warning: the whole output is written, but some element met a
+ *             special case
+ * ------------------------------------------------------------------------ */
+typedef int QspStatus;
+
+enum {
+    qspStsOk                    = 0,
+
+    /* errors */
+    qspStsOverflow              = -4,   /* a computed size does not fit its type */
+    qspStsBadArgument           = -5,   /* a selector is not one of its allowed values */
+    qspStsBadSize               = -6,   /* a length is zero or negative */
+    qspStsBadRange              = -7,   /* a lower bound lies above its upper bound */
+    qspStsNullPtr               = -8,   /* a required pointer is null */
+    qspStsZeroDivisor           = -10,  /* the divisor constant is zero */
+    qspStsBadRecord             = -13,  /* a record lacks the identifier of its kind */
+    qspStsBadRelFreq            = -14,  /* a relative frequency is outside its range */
+    qspStsBadMaskSize           = -15,  /* a filter mask size is not positive and odd */
+    qspStsBadStdDev             = -16,  /* a standard deviation is negative */
+    qspStsBadFftOrder           = -17,  /* an FFT order is out of range */
+    qspStsBadFftFlag            = -18,  /* an FFT normalisation flag is not 1, 2, 4 or 8 */
+    qspStsBadWaveletParam       = -19,  /* a wavelet filter length or offset is out of range */
+    qspStsBadPatternSize        = -20,  /* a pattern is longer than the vector searched */
+    qspStsBadFilterOrder        = -25,  /* a filter order or biquad count is not positive */
+    qspStsBadTapCount           = -26,  /* a FIR tap count is not positive */
+    qspStsBadMu                 = -27,  /* an adaptation step size is outside its range */
+    qspStsBadPhase              = -28,  /* a multi-rate phase is not below its factor */
+    qspStsBadFactor             = -29,  /* a multi-rate factor is below 1 */
+    qspStsBadDelayIndex         = -30,  /* a delay-line index is outside the delay line */
+    qspStsBadThreshold          = -31,  /* a threshold level is not allowed for its mode */
+    qspStsBadShift              = -32,  /* a shift count is negative */
+    qspStsBadCount              = -33,  /* a requested count (as TopK's k) is out of range */
+    qspStsBadTolerance          = -35,  /* a tolerance or accuracy argument is negative */
+    qspStsBadWindowParam        = -39,  /* the Kaiser window parameter is too large */
+    qspStsBadTriangleAsymmetry  = -40,  /* triangle asymmetry outside [-pi, pi) */
+    qspStsBadTrianglePhase      = -41,  /* triangle phase outside [0, 2pi) */
+    qspStsBadTriangleFrequency  = -42,  /* triangle relative frequency outside [0, 0.5) */
+    qspStsBadTriangleMagnitude  = -43,  /* triangle magnitude not above zero */
+    qspStsBadTonePhase          = -44,  /* tone phase outside [0, 2pi) */
+    qspStsBadToneFrequency      = -45,  /* tone relative frequency outside [0, 0.5) */
+    qspStsBadToneMagnitude      = -46,  /* tone magnitude not above zero */
+    qspStsBadDataType           = -59,  /* a data-type code the function does not support */
+    qspStsBadRoundMode          = -213, /* a rounding mode greater than 2 */
+    qspStsBadAlgType            = -228, /* an algorithm type not 0, 1 or 2 */
+
+    /* warnings */
+    qspStsWarnNoOperation       = 1,    /* nothing needed doing; the output equals the input */
+    qspStsWarnDivByZero         = 2,    /* a division met one or more zero divisors */
+    qspStsWarnOutOfDomain       = 3,    /* an element was outside the function's domain */
+    qspStsWarnLogOfZero         = 7,    /* a logarithm met a zero argument */
+    qspStsWarnLogOfNegative     = 8     /* a logarithm met a negative argument */
+};
+
+/* Accuracy hint of some floating-point functions: 1 asks for the fast
+ * path; every other value, including 0 and 2, means accurate. Never
+ * rejected. */
+typedef int QspHintAlgorithm;
+enum {
+    qspAlgHintNone     = 0,
+    qspAlgHintFast     = 1,
+    qspAlgHintAccurate = 2
+};
+
+/* Data-type codes, used by the size queries of the filters and sorts to
+ * name the element type they will work on. */
+typedef int QspDataType;
+enum {
+    qsp1u   = 0,
+    qsp8u   = 1,  qsp8uc  = 2,  qsp8s   = 3,  qsp8sc  = 4,
+    qsp16u  = 5,  qsp16uc = 6,  qsp16s  = 7,  qsp16sc = 8,
+    qsp32u  = 9,  qsp32uc = 10, qsp32s  = 11, qsp32sc = 12,
+    qsp32f  = 13, qsp32fc = 14,
+    qsp64u  = 15, qsp64uc = 16, qsp64s  = 17, qsp64sc = 18,
+    qsp64f  = 19, qsp64fc = 20
+};
+
+/* Method choice of the FIR filters. */
+typedef int QspAlgType;
+enum {
+    qspAlgAuto   = 0,
+    qspAlgDirect = 1,
+    qspAlgFFT    = 2
+};
+
+/* Version record returned by qspsGetLibVersion. One constant record in the
+ * library's read-only data; never written, never freed by the caller. */
+typedef struct {
+    int          majorVersion;   /* 2026 */
+    int          minorVersion;   /* 0 */
+    int          updateNumber;   /* 0 */
+    unsigned int buildNumber;    /* build identifier */
+    char         cpuCode[4];     /* processor variant, "y8" and two zero bytes */
+    const char  *libraryName;    /* "qspSP SSE4.2 (y8)" */
+    const char  *versionText;    /* "major.minor.update (r0x<build number in hex>)" */
+    const char  *buildDateText;  /* "Mon DD YYYY" */
+    int          recordLevel;    /* layout level of the library's records */
+} QspVersionRecord;
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* QSPDEFS_H */

@@ -1,0 +1,232 @@
+/*
+ * qsps.h - the functions of libqspsy8, the qsp signal-processing library.
+ *
+ * This file is generated from api/qsps.api by tools/gen_api.py; edit the
+ * table, not this file.
+ *
+ * Conventions that hold for every function below:
+ *  - Names: qsps + operation + _ + type codes (source before destination) +
+ *    suffixes: I (in place), Sfs/ISfs (integer result scaled by
+ *    2^-scaleFactor, rounded to nearest even and saturated), L (64-bit
+ *    lengths).
+ *  - Arguments: sources, destination, length, mode arguments, scale factor
+ *    last; records and work buffers after the data.
+ *  - Lengths count elements (a complex pair is one element), never bytes.
+ *  - Checks, in this order: pointers in parameter order (qspStsNullPtr),
+ *    then lengths (qspStsBadSize), then mode arguments. On any error nothing
+ *    is written. Warnings are returned after the whole output is written.
+ *    The chunking _L functions check their 64-bit length first.
+ *  - Pointers need no particular alignment; 16-byte alignment is the fast
+ *    case. Sources and destinations must not overlap unless the function's
+ *    block says otherwise.
+ *  - Threads: no function keeps state between calls; any function may run on
+ *    any number of threads at once as long as no two calls write the same
+ *    destination, record or buffer.
+ */
+#ifndef QSPS_H
+#define QSPS_H
+
+#include "qspdefs.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Malloc ------------------------------------------------------------------ */
+/*
+ * Aligned allocation of vectors: qspsMalloc_<type>(len) returns memory for
+ * len elements of the type, 64-byte aligned, or a null pointer. Release it
+ * with qspsFree. The element count must be positive and its byte count must
+ * fit in the size type: a 32-bit variant accepts len up to (2^31-1)/size
+ * (1-byte types 2147483647, 2-byte 1073741823, 4-byte 536870911, 8-byte
+ * 268435455, 16-byte 134217727); a _L variant up to (2^63-1)/size, except
+ * the 2-byte types (16s, 16u, 8sc), whose _L forms accept any positive len
+ * and pass 2*len on unchecked (from 2^62 on the doubled count wraps).
+ * Outside those ranges the result is null and nothing is allocated.
+ * qspsFree releases such memory: the pointer goes unchanged to the support
+ * library's qspFree (a null pointer does nothing). Thread-safe.
+ */
+void qspsFree(void* ptr);
+Qsp8u* qspsMalloc_8u(int len);
+Qsp8s* qspsMalloc_8s(int len);
+Qsp8sc* qspsMalloc_8sc(int len);
+Qsp16s* qspsMalloc_16s(int len);
+Qsp16u* qspsMalloc_16u(int len);
+Qsp16sc* qspsMalloc_16sc(int len);
+Qsp32s* qspsMalloc_32s(int len);
+Qsp32u* qspsMalloc_32u(int len);
+Qsp32sc* qspsMalloc_32sc(int len);
+Qsp32f* qspsMalloc_32f(int len);
+Qsp32fc* qspsMalloc_32fc(int len);
+Qsp64s* qspsMalloc_64s(int len);
+Qsp64sc* qspsMalloc_64sc(int len);
+Qsp64f* qspsMalloc_64f(int len);
+Qsp64fc* qspsMalloc_64fc(int len);
+Qsp8u* qspsMalloc_8u_L(Qsp64s len);
+Qsp8s* qspsMalloc_8s_L(Qsp64s len);
+Qsp8sc* qspsMalloc_8sc_L(Qsp64s len);
+Qsp16s* qspsMalloc_16s_L(Qsp64s len);
+Qsp16u* qspsMalloc_16u_L(Qsp64s len);
+Qsp16sc* qspsMalloc_16sc_L(Qsp64s len);
+Qsp32s* qspsMalloc_32s_L(Qsp64s len);
+Qsp32u* qspsMalloc_32u_L(Qsp64s len);
+Qsp32sc* qspsMalloc_32sc_L(Qsp64s len);
+Qsp32f* qspsMalloc_32f_L(Qsp64s len);
+Qsp32fc* qspsMalloc_32fc_L(Qsp64s len);
+Qsp64s* qspsMalloc_64s_L(Qsp64s len);
+Qsp64sc* qspsMalloc_64sc_L(Qsp64s len);
+Qsp64f* qspsMalloc_64f_L(Qsp64s len);
+Qsp64fc* qspsMalloc_64fc_L(Qsp64s len);
+
+/* GetLibVersion ----------------------------------------------------------- */
+/*
+ * Returns the address of the library's constant version record. The record
+ * lives in read-only data: never write or free it. Thread-safe.
+ */
+const QspVersionRecord* qspsGetLibVersion(void);
+
+/* Zero -------------------------------------------------------------------- */
+/*
+ * pDst[i] = 0 (all bits clear) for 0 <= i < len.
+ * _L forms take a 64-bit length and check it before the pointer; they work in
+ * chunks of floor((2^31-1)/element size) elements.
+ */
+QspStatus qspsZero_8u(Qsp8u* pDst, int len);
+QspStatus qspsZero_16s(Qsp16s* pDst, int len);
+QspStatus qspsZero_16sc(Qsp16sc* pDst, int len);
+QspStatus qspsZero_32s(Qsp32s* pDst, int len);
+QspStatus qspsZero_32sc(Qsp32sc* pDst, int len);
+QspStatus qspsZero_32f(Qsp32f* pDst, int len);
+QspStatus qspsZero_32fc(Qsp32fc* pDst, int len);
+QspStatus qspsZero_64s(Qsp64s* pDst, int len);
+QspStatus qspsZero_64sc(Qsp64sc* pDst, int len);
+QspStatus qspsZero_64f(Qsp64f* pDst, int len);
+QspStatus qspsZero_64fc(Qsp64fc* pDst, int len);
+QspStatus qspsZero_32f_L(Qsp32f* pDst, Qsp64s len);
+QspStatus qspsZero_32fc_L(Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsZero_64f_L(Qsp64f* pDst, Qsp64s len);
+QspStatus qspsZero_64fc_L(Qsp64fc* pDst, Qsp64s len);
+
+/* Set --------------------------------------------------------------------- */
+/*
+ * pDst[i] = val for 0 <= i < len. The value's bit pattern is stored exactly:
+ * -0.0 stays -0.0 and every NaN keeps its payload and sign. Complex values are
+ * written as their pair of parts.
+ */
+QspStatus qspsSet_8u(Qsp8u val, Qsp8u* pDst, int len);
+QspStatus qspsSet_16s(Qsp16s val, Qsp16s* pDst, int len);
+QspStatus qspsSet_16sc(Qsp16sc val, Qsp16sc* pDst, int len);
+QspStatus qspsSet_32s(Qsp32s val, Qsp32s* pDst, int len);
+QspStatus qspsSet_32sc(Qsp32sc val, Qsp32sc* pDst, int len);
+QspStatus qspsSet_32f(Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsSet_32fc(Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsSet_64s(Qsp64s val, Qsp64s* pDst, int len);
+QspStatus qspsSet_64sc(Qsp64sc val, Qsp64sc* pDst, int len);
+QspStatus qspsSet_64f(Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsSet_64fc(Qsp64fc val, Qsp64fc* pDst, int len);
+
+/* Copy -------------------------------------------------------------------- */
+/*
+ * pDst[i] = pSrc[i] for 0 <= i < len. Source and destination must not
+ * overlap (use Move for overlapping vectors). _L forms take a 64-bit length,
+ * check it first, and copy in chunks of floor((2^31-1)/element size)
+ * elements.
+ */
+QspStatus qspsCopy_8u(const Qsp8u* pSrc, Qsp8u* pDst, int len);
+QspStatus qspsCopy_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsCopy_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsCopy_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsCopy_32sc(const Qsp32sc* pSrc, Qsp32sc* pDst, int len);
+QspStatus qspsCopy_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsCopy_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsCopy_64s(const Qsp64s* pSrc, Qsp64s* pDst, int len);
+QspStatus qspsCopy_64sc(const Qsp64sc* pSrc, Qsp64sc* pDst, int len);
+QspStatus qspsCopy_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsCopy_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsCopy_32f_L(const Qsp32f* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsCopy_32fc_L(const Qsp32fc* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsCopy_64f_L(const Qsp64f* pSrc, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsCopy_64fc_L(const Qsp64fc* pSrc, Qsp64fc* pDst, Qsp64s len);
+
+/* Move -------------------------------------------------------------------- */
+/*
+ * pDst[i] = old pSrc[i] for 0 <= i < len, for any overlap of the two
+ * vectors: the bytes move front to back when the source lies above the
+ * destination and back to front otherwise; the same pointer does nothing.
+ */
+QspStatus qspsMove_8u(const Qsp8u* pSrc, Qsp8u* pDst, int len);
+QspStatus qspsMove_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsMove_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsMove_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsMove_32sc(const Qsp32sc* pSrc, Qsp32sc* pDst, int len);
+QspStatus qspsMove_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsMove_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsMove_64s(const Qsp64s* pSrc, Qsp64s* pDst, int len);
+QspStatus qspsMove_64sc(const Qsp64sc* pSrc, Qsp64sc* pDst, int len);
+QspStatus qspsMove_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsMove_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+
+/* Flip -------------------------------------------------------------------- */
+/*
+ * Reverses the order of the elements: pDst[i] = pSrc[len-1-i]. A complex
+ * element moves as a whole; its parts are not exchanged. _I forms reverse
+ * pSrcDst where it stands (the middle element of an odd length stays). The
+ * out-of-place forms need vectors that do not overlap. _L forms take a 64-bit
+ * length and check it before the pointers.
+ */
+QspStatus qspsFlip_8u(const Qsp8u* pSrc, Qsp8u* pDst, int len);
+QspStatus qspsFlip_8u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsFlip_16u(const Qsp16u* pSrc, Qsp16u* pDst, int len);
+QspStatus qspsFlip_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsFlip_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsFlip_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsFlip_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsFlip_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsFlip_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsFlip_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsFlip_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsFlip_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsFlip_32f_L(const Qsp32f* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsFlip_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsFlip_32fc_L(const Qsp32fc* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsFlip_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsFlip_64f_L(const Qsp64f* pSrc, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsFlip_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsFlip_64fc_L(const Qsp64fc* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsFlip_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
+/* SwapBytes --------------------------------------------------------------- */
+/*
+ * Reverses the byte order inside every element (endianness conversion).
+ * 24u: an element is three bytes (len counts elements, so the vectors hold
+ * 3*len bytes); its first and third bytes are exchanged, the middle one stays.
+ * Out-of-place forms need vectors that do not overlap.
+ */
+QspStatus qspsSwapBytes_16u(const Qsp16u* pSrc, Qsp16u* pDst, int len);
+QspStatus qspsSwapBytes_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsSwapBytes_24u(const Qsp8u* pSrc, Qsp8u* pDst, int len);
+QspStatus qspsSwapBytes_24u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsSwapBytes_32u(const Qsp32u* pSrc, Qsp32u* pDst, int len);
+QspStatus qspsSwapBytes_32u_I(Qsp32u* pSrcDst, int len);
+QspStatus qspsSwapBytes_64u(const Qsp64u* pSrc, Qsp64u* pDst, int len);
+QspStatus qspsSwapBytes_64u_I(Qsp64u* pSrcDst, int len);
+
+/* CopyBits ---------------------------------------------------------------- */
+/*
+ * Copies a run of len bits from bit srcBitOffset of pSrc to bit dstBitOffset
+ * of pDst; destination bits outside the run keep their values. Bit k of a
+ * string is bit k%8 of byte k/8, so an offset of 8 or more first advances the
+ * byte pointer. Within a byte, CopyLE_1u numbers bits from the most
+ * significant (bit 0 is mask 0x80), CopyBE_1u from the least significant
+ * (bit 0 is mask 0x01). Checks: pSrc, then pDst null gives qspStsNullPtr; len
+ * below 1 gives qspStsBadSize, and so does a negative offset. Source and
+ * destination runs must not overlap.
+ */
+QspStatus qspsCopyLE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int dstBitOffset, int len);
+QspStatus qspsCopyBE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int dstBitOffset, int len);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* QSPS_H */
