@@ -225,6 +225,14 @@ QspStatus qspsSwapBytes_64u_I(Qsp64u* pSrcDst, int len);
 QspStatus qspsCopyLE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int dstBitOffset, int len);
 QspStatus qspsCopyBE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int dstBitOffset, int len);
 
+/* MulC -------------------------------------------------------------------- */
+/*
+ * Multiplication by a constant: pDst[i] = pSrc[i] * val (in place:
+ * pSrcDst[i] = pSrcDst[i] * val). Floating results are the IEEE products,
+ * rounded to nearest.
+ */
+QspStatus qspsMulC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+
 #ifdef __cplusplus
 }
 #endif
