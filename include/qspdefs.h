@@ -128,6 +128,28 @@ enum {
     qspAlgFFT    = 2
 };
 
+/* Rounding of scaled integer results where a function takes a rounding
+ * mode (Div_Round, the float-to-integer conversions). A mode above 2 gives
+ * qspStsBadRoundMode. */
+typedef int QspRoundMode;
+enum {
+    qspRndZero      = 0,  /* toward zero */
+    qspRndNear      = 1,  /* to nearest, ties to even */
+    qspRndFinancial = 2   /* to nearest, ties away from zero */
+};
+
+/* Comparison selector of Threshold: the relation under which an element
+ * is replaced by the level. Threshold accepts qspCmpLess and qspCmpGreater
+ * only; other values give qspStsBadArgument. */
+typedef int QspCmpOp;
+enum {
+    qspCmpLess      = 0,
+    qspCmpLessEq    = 1,
+    qspCmpEq        = 2,
+    qspCmpGreaterEq = 3,
+    qspCmpGreater   = 4
+};
+
 /* Version record returned by qspsGetLibVersion. One constant record in the
  * library's read-only data; never written, never freed by the caller. */
 typedef struct {
