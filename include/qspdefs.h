@@ -150,6 +150,21 @@ enum {
     qspCmpGreater   = 4
 };
 
+/* Zero-crossing measure of ZeroCrossing. */
+typedef int QspZCType;
+enum {
+    qspZCR   = 0,  /* sign changes, a zero counting as positive */
+    qspZCXor = 1,  /* sign bits of neighbours differ */
+    qspZCC   = 2   /* half the sum of |sign(x[i]) - sign(x[i-1])| */
+};
+
+/* Comparison of PatternMatch. */
+typedef int QspPatternMatchMode;
+enum {
+    qspPatternMatchEqual   = 0,  /* count the equal elements */
+    qspPatternMatchHamming = 1   /* count the differing bits */
+};
+
 /* ------------------------------------------------------------------------
  * Records in caller memory. Their layouts are internal: a caller only sizes
  * them with the matching GetSize/GetStateSize query, has Init build them
