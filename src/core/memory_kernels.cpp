@@ -37,49 +37,35 @@ inline bool isEightByteSplat(Reg pattern)
 
 inline Qsp64s misalignment(const void* p) { return reinterpret_cast<Qsp64u>(p) & 15; }
 
-// Up to 16 bytes, loading everything before storing anything so that
-// overlapping vectors are moved correctly.
-inline void moveUpTo16(const Qsp8u* s, Qsp8u* d, Qsp64s n)
+// 2 to 2 * sizeof(W) bytes as two possibly overlapping words, the first
+// and the last, both loaded before either is stored so that overlapping
+// vectors are moved correctly.
+template <class W>
+inline void moveBothEnds(const Qsp8u* s, Qsp8u* d, Qsp64s n)
 {
-    if (n >= 8) {
-        Qsp64u a, b;
-        __builtin_memcpy(&a, s, 8);
-        __builtin_memcpy(&b, s + n - 8, 8);
-        __builtin_memcpy(d, &a, 8);
-        __builtin_memcpy(d + n - 8, &b, 8);
-    } else if (n >= 4) {
-        Qsp32u a, b;
-        __builtin_memcpy(&a, s, 4);
-        __builtin_memcpy(&b, s + n - 4, 4);
-        __builtin_memcpy(d, &a, 4);
-        __builtin_memcpy(d + n - 4, &b, 4);
-    } else if (n >= 2) {
-        Qsp16u a, b;
-        __builtin_memcpy(&a, s, 2);
-        __builtin_memcpy(&b, s + n - 2, 2);
-        __builtin_memcpy(d, &a, 2);
-        __builtin_memcpy(d + n - 2, &b, 2);
-    } else {
-        d[0] = s[0];
-    }
+    W first, last;
+    __builtin_memcpy(&first, s, sizeof(W));
+    __builtin_memcpy(&last, s + n - sizeof(W), sizeof(W));
+    __builtin_memcpy(d, &first, sizeof(W));
+    __builtin_memcpy(d + n - sizeof(W), &last, sizeof(W));
 }
 
-// Up to 64 bytes with overlapping 16-byte registers, all loads first.
+// Up to 64 bytes with overlapping words and registers, all loads first.
 inline void moveUpTo64(const Qsp8u* s, Qsp8u* d, Qsp64s n)
 {
-    if (n <= 16) return moveUpTo16(s, d, n);
-    if (n <= 32) {
-        const Reg a = V::loadu(s), b = V::loadu(s + n - 16);
+    if (n == 1) d[0] = s[0];
+    else if (n < 4) moveBothEnds<Qsp16u>(s, d, n);
+    else if (n < 8) moveBothEnds<Qsp32u>(s, d, n);
+    else if (n <= 16) moveBothEnds<Qsp64u>(s, d, n);
+    else if (n <= 32) moveBothEnds<Reg>(s, d, n);
+    else {
+        const Reg a = V::loadu(s), b = V::loadu(s + 16);
+        const Reg c = V::loadu(s + n - 32), e = V::loadu(s + n - 16);
         V::storeu(d, a);
-        V::storeu(d + n - 16, b);
-        return;
+        V::storeu(d + 16, b);
+        V::storeu(d + n - 32, c);
+        V::storeu(d + n - 16, e);
     }
-    const Reg a = V::loadu(s), b = V::loadu(s + 16);
-    const Reg c = V::loadu(s + n - 32), e = V::loadu(s + n - 16);
-    V::storeu(d, a);
-    V::storeu(d + 16, b);
-    V::storeu(d + n - 32, c);
-    V::storeu(d + n - 16, e);
 }
 
 struct Block64 {
