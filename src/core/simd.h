@@ -20,6 +20,23 @@ namespace simd {
 
 constexpr int kBytes = 16;
 
+// Scalar access that makes no alignment assumption: callers may hand us
+// element pointers at any byte address, and the compiler turns these into
+// plain moves.
+template <class T>
+inline T loadOne(const T* p)
+{
+    T x;
+    __builtin_memcpy(&x, p, sizeof(T));
+    return x;
+}
+
+template <class T>
+inline void storeOne(T* p, const T& x)
+{
+    __builtin_memcpy(p, &x, sizeof(T));
+}
+
 // Operations on the raw 128 bits, shared by all integer element types.
 struct IntRegOps {
     using Reg = __m128i;
