@@ -1,8 +1,11 @@
-// Independent references of the arithmetic tests: the scale-factor rule in
-// exact 128-bit integer arithmetic (floor division and an explicit
-// comparison of the remainder with one half), sweeps over lengths and
-// alignments, and random operands with the extreme values mixed in.
+// Independent references and sweeps of the arithmetic tests: the
+// scale-factor rule in exact 128-bit integer arithmetic (floor division and
+// an explicit comparison of the remainder with one half), distances to a
+// long double reference in units in the last place, random operands with
+// the extreme values mixed in, and sweeps over lengths and alignments.
 #pragma once
+#include <cfloat>
+#include <functional>
 #include <limits>
 #include <vector>
 
@@ -50,6 +53,80 @@ std::vector<T> operands(size_t n)
     for (size_t i = 0; i < n; ++i)
         if (qsptest::rng()() % 4 == 0) v[i] = special[qsptest::rng()() % (sizeof special / sizeof special[0])];
     return v;
+}
+
+// Random finite floating values over many binades (magnitudes 2^-40 ..
+// 2^40), signs mixed, with some zeros.
+template <class F>
+std::vector<F> floats(size_t n, int maxExp = 40)
+{
+    std::vector<F> v(n);
+    std::uniform_real_distribution<double> m(1.0, 2.0);
+    for (auto& x : v) {
+        const int e = int(qsptest::rng()() % (2 * maxExp + 1)) - maxExp;
+        x = F(std::ldexp(m(qsptest::rng()), e));
+        if (qsptest::rng()() % 2) x = -x;
+        if (qsptest::rng()() % 29 == 0) x = F(0);
+    }
+    return v;
+}
+
+// Spacing of F at the magnitude of x (the smallest denormal spacing below
+// the normal range).
+template <class F>
+long double ulpAt(long double x)
+{
+    x = x < 0 ? -x : x;
+    const long double tiny = std::numeric_limits<F>::denorm_min();
+    if (x < std::numeric_limits<F>::min()) return tiny;
+    int e;
+    std::frexp(x, &e);  // x = m * 2^e, 0.5 <= m < 1
+    return std::ldexp(1.0L, e - std::numeric_limits<F>::digits);
+}
+
+// Error of got against the exact value, in units in the last place of F at
+// the exact value's magnitude.
+template <class F>
+double ulpError(F got, long double exact)
+{
+    const long double d = (long double)got - exact;
+    return double((d < 0 ? -d : d) / ulpAt<F>(exact));
+}
+
+// Element types and their byte offsets: every 16-byte alignment a vector of
+// T can have.
+template <class T>
+constexpr int alignments = sizeof(T) >= 16 ? 1 : 16 / int(sizeof(T));
+
+// Lengths that cover the vector bodies and tails of every kernel.
+inline std::vector<int> sweepLengths()
+{
+    std::vector<int> l;
+    for (int n = 1; n <= 70; ++n) l.push_back(n);
+    l.push_back(255);
+    l.push_back(1000);
+    l.push_back(4099);
+    return l;
+}
+
+// A buffer of len elements at element offset `off` from a 16-byte boundary.
+template <class T>
+struct At {
+    std::vector<T> store;
+    T* p;
+    At(int len, int off) : store(size_t(len) + 32)
+    {
+        auto addr = reinterpret_cast<uintptr_t>(store.data());
+        const uintptr_t aligned = (addr + 15) & ~uintptr_t(15);
+        p = reinterpret_cast<T*>(aligned) + off;
+    }
+};
+
+template <class T>
+bool sameValue(T a, T b)
+{
+    if constexpr (std::is_floating_point_v<T>) return (a != a && b != b) || qsptest::sameBits(a, b);
+    else return qsptest::sameBits(a, b);
 }
 
 }  // namespace arithref
