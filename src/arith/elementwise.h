@@ -127,12 +127,16 @@ void lanesBlock(D* pDst, Op& op, const M& m, const S*... pSrc)
 // pDst[i] = scaled(op(pSrc...[i])) for 8- and 16-bit destinations. The
 // tail (less than one block) is copied into a block on the stack and runs
 // through the same vector code, so the operation needs no scalar form and
-// every element sees the same arithmetic.
-template <class D, class Op, class Mode, class... S>
+// every element sees the same arithmetic. Full selects the scaling form
+// valid for any 32-bit exact result (see scaling.h).
+template <bool Full, class D, class Op, class Mode, class... S>
 void lanes(D* pDst, Qsp64s len, Op op, Mode mode, const S*... pSrc)
 {
     constexpr int G = detail::blockOf<D>;
-    const auto m = mode.template lanes32<D>();
+    const auto m = [&] {
+        if constexpr (Full) return mode.template lanes32Full<D>();
+        else return mode.template lanes32<D>();
+    }();
     Qsp64s i = 0;
     for (; i + G <= len; i += G) lanesBlock(pDst + i, op, m, (pSrc + i)...);
     if (i < len) {

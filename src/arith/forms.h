@@ -105,14 +105,20 @@ template <class T>
 constexpr bool isNarrow = std::is_same_v<T, Qsp8u> || std::is_same_v<T, Qsp8s> || std::is_same_v<T, Qsp16s> ||
                           std::is_same_v<T, Qsp16u>;
 
-// Whether the 32-bit lane kernels hold a result range exactly, rounding
-// included (v + 2^(Z-2) must stay below 2^31).
+// Whether the fast 32-bit lane scaling holds a result range exactly,
+// rounding included (v + 2^(Z-2) must stay below 2^31), and whether the
+// range fits 32-bit lanes at all (then the full-range scaling serves).
 template <class D>
 constexpr bool fitsLanes(ops::Range r)
 {
     if (!isNarrow<D> || r.lo < -(Qsp64s(1) << 31)) return false;
     const scaling::Limits lim = scaling::limitsFor<D>(r.lo, r.hi);
     return r.hi + (Qsp64s(1) << (lim.zerosFrom - 2)) < (Qsp64s(1) << 31);
+}
+template <class D>
+constexpr bool fitsLanesFull(ops::Range r)
+{
+    return isNarrow<D> && r.lo >= -(Qsp64s(1) << 31) && r.hi < (Qsp64s(1) << 31);
 }
 
 // Runs op over the sources into pDst under the mode: 32-bit lanes when the
@@ -121,7 +127,9 @@ template <ops::Range R, class D, class Op, class Mode, class... S>
 void runScaled(D* pDst, Qsp64s len, Op op, Mode mode, const S*... pSrc)
 {
     if constexpr (fitsLanes<D>(R) && (isNarrow<S> && ...)) {
-        elementwise::lanes(pDst, len, op, mode, pSrc...);
+        elementwise::lanes<false>(pDst, len, op, mode, pSrc...);
+    } else if constexpr (fitsLanesFull<D>(R) && (isNarrow<S> && ...)) {
+        elementwise::lanes<true>(pDst, len, op, mode, pSrc...);
     } else {
         for (Qsp64s i = 0; i < len; ++i) pDst[i] = mode.template apply<D>(op.one(Qsp64s(pSrc[i])...));
     }

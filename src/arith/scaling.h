@@ -14,7 +14,8 @@
 // once per call, so that no inner loop tests it:
 //
 //   s = 0             Plain    saturate only
-//   s = 1             Half     (v + bit 1 of v) >> 1
+//   s = 1             Half     (v + bit 1 of v) >> 1, formed as
+//                              (v >> 1) + (bit 0 & bit 1)
 //   2 <= s < Z        Pos      rounding constant and shift prepared once
 //   s >= Z            (none)   every result rounds to 0: the zero fill of
 //                              the destination's element width is called
@@ -37,7 +38,9 @@
 // `mode.template apply<D>(v)` (scalar) or, for 32-bit lanes bound for an 8-
 // or 16-bit destination, prepares `auto m = mode.template lanes32<D>()`
 // before its loop and calls `m(v)` per register; m(v) leaves 32-bit lanes
-// that a saturating pack to D narrows to the rule's result.
+// that a saturating pack to D narrows to the rule's result. lanes32 needs
+// v + 2^(Z-2) to stay inside 32 bits (true of sums and of 16-bit products);
+// lanes32Full takes any 32-bit v at a few more instructions per register.
 #pragma once
 #include <limits>
 #include <type_traits>
@@ -103,6 +106,10 @@ template <class D>
 constexpr Qsp32s dmin = Qsp32s(std::numeric_limits<D>::min());
 }  // namespace detail
 
+// Every mode has lanes32<D>(), valid while v + 2^(Z-2) stays inside 32
+// bits, and lanes32Full<D>(), valid for any 32-bit v; they differ only for
+// Pos.
+
 // s = 0: saturation only.
 struct Plain {
     template <class D, class W>
@@ -113,23 +120,33 @@ struct Plain {
     };
     template <class D>
     Lanes lanes32() const { return {}; }
+    template <class D>
+    Lanes lanes32Full() const { return {}; }
 };
 
-// s = 1: halve, ties to even.
+// s = 1: halve, ties to even: floor(v / 2), plus one when the halved-off
+// bit is set and the quotient is odd (no intermediate leaves 32 bits).
 struct Half {
     template <class D, class W>
-    D apply(W v) const { return saturate<D>((v + ((v >> 1) & 1)) >> 1); }
+    D apply(W v) const
+    {
+        const W q = v >> 1;
+        return saturate<D>(q + (v & q & 1));
+    }
 
     struct Lanes {
         detail::R one;
         detail::R operator()(detail::R v) const
         {
             using V = detail::V32;
-            return V::srai1(V::add(v, V::bitAnd(V::srai1(v), one)));
+            const detail::R q = V::srai1(v);
+            return V::add(q, V::bitAnd(V::bitAnd(v, q), one));
         }
     };
     template <class D>
     Lanes lanes32() const { return {detail::V32::splat(1)}; }
+    template <class D>
+    Lanes lanes32Full() const { return {detail::V32::splat(1)}; }
 };
 
 // 2 <= s < Z: the rounding constant 2^(s-1) - 1 prepared once.
@@ -157,6 +174,26 @@ struct Pos {
     {
         using V = detail::V32;
         return {V::count(s), V::splat(Qsp32s(bias)), V::splat(1)};
+    }
+
+    // For any 32-bit v: the quotient floor(v / 2^s) plus the carry of the
+    // remainder, rounding constant and bit s, which is formed without sign
+    // in 32 bits (remainder + 2^(s-1) < 2^32 for every s up to 31).
+    struct FullLanes {
+        detail::R count, bias, one, mask;
+        detail::R operator()(detail::R v) const
+        {
+            using V = detail::V32;
+            const detail::R q = V::sra(v, count);
+            const detail::R carry = V::add(V::add(V::bitAnd(v, mask), bias), V::bitAnd(q, one));
+            return V::add(q, V::srl(carry, count));
+        }
+    };
+    template <class D>
+    FullLanes lanes32Full() const
+    {
+        using V = detail::V32;
+        return {V::count(s), V::splat(Qsp32s(bias)), V::splat(1), V::splat(Qsp32s((Qsp64s(1) << s) - 1))};
     }
 };
 
@@ -195,6 +232,8 @@ struct Neg {
         const Qsp32s lo = detail::dmin<D> < 0 ? (detail::dmin<D> >> k) - 1 : 0;
         return {V::count(k), V::splat(lo), V::splat(hi)};
     }
+    template <class D>
+    Lanes lanes32Full() const { return lanes32<D>(); }
 };
 
 // s <= -B: the sign of v decides.
@@ -213,6 +252,8 @@ struct Bound {
     // saturating pack turns +-2^16 into max and min.
     template <class D>
     Lanes lanes32() const { return {detail::V32::splat(1 << 16)}; }
+    template <class D>
+    Lanes lanes32Full() const { return lanes32<D>(); }
 };
 
 // The choice of kernel by the scale factor. `kernel` is called with one of

@@ -210,6 +210,7 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg count(int n) { return _mm_cvtsi32_si128(n); }
     static Reg sra(Reg a, Reg n) { return _mm_sra_epi32(a, n); }
     static Reg sll(Reg a, Reg n) { return _mm_sll_epi32(a, n); }
+    static Reg srl(Reg a, Reg n) { return _mm_srl_epi32(a, n); }
     static Reg srai1(Reg a) { return _mm_srai_epi32(a, 1); }
     // Widening of the low or high half of a register of 16-bit lanes.
     static Reg lo16s(Reg a) { return _mm_cvtepi16_epi32(a); }

@@ -20,15 +20,19 @@ D viaSelect(W v, int s, scaling::Limits lim)
     return out;
 }
 
-// The same through the 32-bit lane form and a saturating pack to D.
-template <class D>
+// The same through the 32-bit lane form (or the full-range one) and a
+// saturating pack to D.
+template <class D, bool Full = false>
 D viaLanes(Qsp32s v, int s, scaling::Limits lim)
 {
     D out = D(123);
     scaling::select(
         s, lim,
         [&](auto mode) {
-            const auto m = mode.template lanes32<D>();
+            const auto m = [&] {
+                if constexpr (Full) return mode.template lanes32Full<D>();
+                else return mode.template lanes32<D>();
+            }();
             const __m128i r = m(_mm_set1_epi32(v));
             if constexpr (std::is_same_v<D, Qsp16s>) out = D(_mm_extract_epi16(_mm_packs_epi32(r, r), 0));
             else if constexpr (std::is_same_v<D, Qsp16u>) out = D(_mm_extract_epi16(simd::packs32to16u(r, r), 0));
@@ -40,7 +44,7 @@ D viaLanes(Qsp32s v, int s, scaling::Limits lim)
 }
 
 template <class D, class W>
-void checkRange(Qsp64s lo, Qsp64s hi, bool lanes)
+void checkRange(Qsp64s lo, Qsp64s hi, bool lanes, bool full = true)
 {
     const scaling::Limits lim = scaling::limitsFor<D>(lo, hi);
     std::vector<Qsp64s> values = {lo, hi, 0, 1, -1, 2, -2, 3, -3, lo + 1, hi - 1, lo / 2, hi / 2};
@@ -59,6 +63,7 @@ void checkRange(Qsp64s lo, Qsp64s hi, bool lanes)
             const D expected = arithref::scaled<D>(i128(v), s);
             ASSERT_EQ(viaSelect<D>(W(v), s, lim), expected) << "v " << v << " s " << s;
             if (lanes) ASSERT_EQ(viaLanes<D>(Qsp32s(v), s, lim), expected) << "lanes v " << v << " s " << s;
+            if (full) ASSERT_EQ((viaLanes<D, true>(Qsp32s(v), s, lim)), expected) << "full v " << v << " s " << s;
         }
     }
 }
@@ -134,9 +139,13 @@ TEST(Scaling, EveryModeMatchesTheExactRule16sProducts) { checkRange<Qsp16s, Qsp3
 TEST(Scaling, EveryModeMatchesTheExactRule16u) { checkRange<Qsp16u, Qsp32s>(-65535, 131070, true); }
 TEST(Scaling, EveryModeMatchesTheExactRule32s)
 {
-    checkRange<Qsp32s, Qsp64s>(-(Qsp64s(1) << 32), (Qsp64s(1) << 32) - 2, false);
+    checkRange<Qsp32s, Qsp64s>(-(Qsp64s(1) << 32), (Qsp64s(1) << 32) - 2, false, false);
 }
 TEST(Scaling, EveryModeMatchesTheExactRule32sProducts)
 {
-    checkRange<Qsp32s, Qsp64s>(-(Qsp64s(1) << 62), Qsp64s(1) << 62, false);
+    checkRange<Qsp32s, Qsp64s>(-(Qsp64s(1) << 62), Qsp64s(1) << 62, false, false);
 }
+// The full-range lane form over every 32-bit value, to 16s and 8u.
+TEST(Scaling, FullRangeLanes16s) { checkRange<Qsp16s, Qsp64s>(-2147483647 - 1, 2147483647, false, true); }
+TEST(Scaling, FullRangeLanes8u) { checkRange<Qsp8u, Qsp64s>(-2147483647 - 1, 2147483647, false, true); }
+TEST(Scaling, FullRangeLanes16u) { checkRange<Qsp16u, Qsp64s>(-2147483647 - 1, 2147483647, false, true); }
