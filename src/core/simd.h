@@ -13,6 +13,7 @@
 // Arithmetic members are added beside these as kernels need them.
 #pragma once
 #include <nmmintrin.h>
+#include <pmmintrin.h>
 
 #include "qspdefs.h"
 
@@ -85,6 +86,24 @@ struct Vec<float> {
     static Reg sub(Reg a, Reg b) { return _mm_sub_ps(a, b); }
     static Reg mul(Reg a, Reg b) { return _mm_mul_ps(a, b); }
     static Reg div(Reg a, Reg b) { return _mm_div_ps(a, b); }
+    static Reg bitXor(Reg a, Reg b) { return _mm_xor_ps(a, b); }
+    // Members for interleaved complex data, two (re, im) pairs a register.
+    static Reg addsub(Reg a, Reg b) { return _mm_addsub_ps(a, b); }   // a0-b0, a1+b1, a2-b2, a3+b3
+    static Reg dupEven(Reg r) { return _mm_moveldup_ps(r); }           // r0, r0, r2, r2
+    static Reg dupOdd(Reg r) { return _mm_movehdup_ps(r); }            // r1, r1, r3, r3
+    static Reg swapPairs(Reg r) { return _mm_shuffle_ps(r, r, _MM_SHUFFLE(2, 3, 0, 1)); }
+    static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
+    static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
+    // One 8-byte pair repeated in both halves (p need not be aligned).
+    static Reg loadPairDup(const float* p)
+    {
+        return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)));
+    }
+    static Reg loadPair(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
+    static void storePair(float* p, Reg r) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
+    static void storeHighPair(float* p, Reg r) { _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
+    static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
+    static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
 };
 
 template <>
@@ -103,6 +122,16 @@ struct Vec<double> {
     static Reg sub(Reg a, Reg b) { return _mm_sub_pd(a, b); }
     static Reg mul(Reg a, Reg b) { return _mm_mul_pd(a, b); }
     static Reg div(Reg a, Reg b) { return _mm_div_pd(a, b); }
+    static Reg bitXor(Reg a, Reg b) { return _mm_xor_pd(a, b); }
+    // Members for interleaved complex data, one (re, im) pair a register.
+    static Reg addsub(Reg a, Reg b) { return _mm_addsub_pd(a, b); }   // a0-b0, a1+b1
+    static Reg dupEven(Reg r) { return _mm_movedup_pd(r); }            // r0, r0
+    static Reg dupOdd(Reg r) { return _mm_unpackhi_pd(r, r); }         // r1, r1
+    static Reg swapPairs(Reg r) { return _mm_shuffle_pd(r, r, 1); }
+    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); } // a0, b0
+    static Reg highHalves(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); } // a1, b1
+    static Reg negOdd(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(0.0, -0.0)); }
+    static Reg negEven(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(-0.0, 0.0)); }
 };
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit
