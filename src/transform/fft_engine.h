@@ -397,10 +397,10 @@ void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
     tw += passTwiddleCount(Qsp64s(1) << n2);
     ownsFillPassTwiddles<T>(tw, n1, oct);
     tw += passTwiddleCount(Qsp64s(1) << n1);
-    const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2;
+    const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, step = Qsp64s(1) << (oct.order - order);
     for (Qsp64s b = 0; b < rows; ++b) {
         for (Qsp64s k = 0; k < cols; ++k) {
-            const C<O> w = twiddle(oct, b * k);
+            const C<O> w = twiddle(oct, b * k * step);
             tw[b * cols + k] = {T(w.re), T(w.im)};
         }
     }
