@@ -334,6 +334,83 @@ QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 QspStatus qspsFFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
 
+/* MulPack ----------------------------------------------------------------- */
+/*
+ * Multiplies two half spectra in Pack layout bin by bin: pSrcDst = pSrc *
+ * pSrcDst, where element 0 (and, for even len, element len-1) are real and the
+ * pairs in between complex. len is the packed length (N values).
+ */
+QspStatus qspsMulPack_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MulPackConj ------------------------------------------------------------- */
+/*
+ * As MulPack, with the in-place operand conjugated: pSrcDst = pSrc *
+ * conj(pSrcDst), bin by bin, in Pack layout.
+ */
+QspStatus qspsMulPackConj_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MulPerm ----------------------------------------------------------------- */
+/*
+ * Multiplies two half spectra in Perm layout bin by bin: pDst = pSrc1 * pSrc2,
+ * or in place pSrcDst = pSrc * pSrcDst. Element 0 and, for even len, element 1
+ * are real; the complex pairs follow. len is the packed length (N values).
+ */
+QspStatus qspsMulPerm_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMulPerm_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPerm_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMulPerm_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* ConjPerm ---------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in Perm layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values).
+ */
+QspStatus qspsConjPerm_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjPerm_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjPerm_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjPerm_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* ConjPack ---------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in Pack layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values). _L forms take a 64-bit length
+ * and run in one pass.
+ */
+QspStatus qspsConjPack_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjPack_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjPack_32fc_L(const Qsp32f* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsConjPack_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsConjPack_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjPack_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsConjPack_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsConjPack_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
+/* ConjCcs ----------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in CCS layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values). _L forms take a 64-bit length
+ * and run in one pass.
+ */
+QspStatus qspsConjCcs_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjCcs_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjCcs_32fc_L(const Qsp32f* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsConjCcs_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsConjCcs_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjCcs_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsConjCcs_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
 #ifdef __cplusplus
 }
 #endif

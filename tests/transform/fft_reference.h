@@ -41,7 +41,9 @@ inline void fftRec(LC* x, size_t n, size_t stride, LC* out, const std::vector<LC
     fftRec(x, n / 2, stride * 2, out, w, wStep * 2);
     fftRec(x + stride, n / 2, stride * 2, out + n / 2, w, wStep * 2);
     for (size_t k = 0; k < n / 2; ++k) {
-        const LC e = out[k], o = out[k + n / 2] * w[k * wStep];
+        // Written out: std::complex's product checks for infinities.
+        const LC a = out[k + n / 2], b = w[k * wStep];
+        const LC e = out[k], o(a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real());
         out[k] = e + o;
         out[k + n / 2] = e - o;
     }
@@ -59,6 +61,54 @@ inline std::vector<LC> dft(std::vector<LC> x, int sign)
     std::vector<LC> out(n);
     fftRec(x.data(), n, 1, out.data(), w, 1);
     return out;
+}
+
+// The reference transform of a deterministic signal of each order, kept
+// for the whole test program: its values are multiples of 2^-12 in
+// [-1, 1), exact in half, single and double precision, so every kind
+// transforms the same input.
+inline std::vector<LC> exactSignal(int order, bool real, unsigned salt = 0)
+{
+    std::mt19937_64 gen(0x5eed + 977u * order + (real ? 1 : 0) + 7919u * salt);
+    std::vector<LC> x(size_t(1) << order);
+    auto draw = [&]() { return (long double)((int64_t)(gen() % 8192) - 4096) / 4096.0L; };
+    for (auto& v : x) {
+        const long double re = draw();
+        v = LC(re, real ? 0.0L : draw());
+    }
+    return x;
+}
+
+struct CachedPair {
+    std::vector<LC> x, forward, inverse;
+    // Real signals only: a conjugate-symmetric spectrum with exact values
+    // (bins 0 and N/2 real) and its inverse transform, a real signal.
+    std::vector<LC> hermitian, hermitianInverse;
+};
+
+inline const CachedPair& cached(int order, bool real)
+{
+    static std::vector<CachedPair> cache[2];
+    auto& c = cache[real ? 1 : 0];
+    if (c.size() <= (size_t)order) c.resize(order + 1);
+    CachedPair& e = c[order];
+    if (e.x.empty()) {
+        e.x = exactSignal(order, real);
+        e.forward = dft(e.x, -1);
+        e.inverse = dft(e.x, 1);
+        if (real) {
+            const size_t n = e.x.size();
+            const auto v = exactSignal(order, false, 1);
+            e.hermitian.assign(n, LC(0, 0));
+            for (size_t k = 0; k <= n / 2; ++k) {
+                const bool realBin = k == 0 || 2 * k == n;
+                e.hermitian[k] = LC(v[k].real(), realBin ? 0.0L : v[k].imag());
+                if (!realBin) e.hermitian[n - k] = std::conj(e.hermitian[k]);
+            }
+            e.hermitianInverse = dft(e.hermitian, 1);
+        }
+    }
+    return e;
 }
 
 // Relative RMS error: sqrt(sum |got - ref|^2 / sum |ref|^2).

@@ -17,8 +17,9 @@ long double flagScale(int flag, bool inverse, int order)
 void checkOrder(K k, int order, int flag, bool inverse, bool report = false)
 {
     const size_t n = size_t(1) << order;
-    const auto x = fftref::randomSignal(n);
-    auto ref = fftref::dft(rounded(k, x), inverse ? 1 : -1);
+    const auto& c = fftref::cached(order, false);
+    const auto& x = c.x;
+    auto ref = inverse ? c.inverse : c.forward;
     const long double sc = flagScale(flag, inverse, order);
     for (auto& v : ref) v *= sc;
     Built b = build(k, order, flag);
