@@ -128,6 +128,91 @@ enum {
     qspAlgFFT    = 2
 };
 
+/* Rounding of scaled integer results where a function takes a rounding
+ * mode (Div_Round, the float-to-integer conversions). A mode above 2 gives
+ * qspStsBadRoundMode. */
+typedef int QspRoundMode;
+enum {
+    qspRndZero      = 0,  /* toward zero */
+    qspRndNear      = 1,  /* to nearest, ties to even */
+    qspRndFinancial = 2   /* to nearest, ties away from zero */
+};
+
+/* Comparison selector of Threshold: the relation under which an element
+ * is replaced by the level. Threshold accepts qspCmpLess and qspCmpGreater
+ * only; other values give qspStsBadArgument. */
+typedef int QspCmpOp;
+enum {
+    qspCmpLess      = 0,
+    qspCmpLessEq    = 1,
+    qspCmpEq        = 2,
+    qspCmpGreaterEq = 3,
+    qspCmpGreater   = 4
+};
+
+/* Zero-crossing measure of ZeroCrossing. */
+typedef int QspZCType;
+enum {
+    qspZCR   = 0,  /* sign changes, a zero counting as positive */
+    qspZCXor = 1,  /* sign bits of neighbours differ */
+    qspZCC   = 2   /* half the sum of |sign(x[i]) - sign(x[i-1])| */
+};
+
+/* Comparison of PatternMatch. */
+typedef int QspPatternMatchMode;
+enum {
+    qspPatternMatchEqual   = 0,  /* count the equal elements */
+    qspPatternMatchHamming = 1   /* count the differing bits */
+};
+
+/* ------------------------------------------------------------------------
+ * Records in caller memory. Their layouts are internal: a caller only sizes
+ * them with the matching GetSize/GetStateSize query, has Init build them
+ * inside its own block and passes the pointer that Init returns.
+ * ------------------------------------------------------------------------ */
+/* FFT records, one kind per data kind (C: complex, R: real; 32f/64f after
+ * C: split real and imaginary arrays). */
+typedef struct QspsFFTSpec_C_16fc QspsFFTSpec_C_16fc;
+typedef struct QspsFFTSpec_C_32fc QspsFFTSpec_C_32fc;
+typedef struct QspsFFTSpec_C_32f QspsFFTSpec_C_32f;
+typedef struct QspsFFTSpec_R_32f QspsFFTSpec_R_32f;
+typedef struct QspsFFTSpec_C_64fc QspsFFTSpec_C_64fc;
+typedef struct QspsFFTSpec_C_64f QspsFFTSpec_C_64f;
+typedef struct QspsFFTSpec_R_64f QspsFFTSpec_R_64f;
+/* DFT records (any length), same kinds as the FFT. */
+typedef struct QspsDFTSpec_C_16fc QspsDFTSpec_C_16fc;
+typedef struct QspsDFTSpec_C_32fc QspsDFTSpec_C_32fc;
+typedef struct QspsDFTSpec_C_32f QspsDFTSpec_C_32f;
+typedef struct QspsDFTSpec_R_32f QspsDFTSpec_R_32f;
+typedef struct QspsDFTSpec_C_64fc QspsDFTSpec_C_64fc;
+typedef struct QspsDFTSpec_C_64f QspsDFTSpec_C_64f;
+typedef struct QspsDFTSpec_R_64f QspsDFTSpec_R_64f;
+/* DCT records, forward and inverse. */
+typedef struct QspsDCTFwdSpec_32f QspsDCTFwdSpec_32f;
+typedef struct QspsDCTInvSpec_32f QspsDCTInvSpec_32f;
+typedef struct QspsDCTFwdSpec_64f QspsDCTFwdSpec_64f;
+typedef struct QspsDCTInvSpec_64f QspsDCTInvSpec_64f;
+/* FIR single-rate records; 32f_32fc: real taps, complex data. */
+typedef struct QspsFIRSpec_32f QspsFIRSpec_32f;
+typedef struct QspsFIRSpec_64f QspsFIRSpec_64f;
+typedef struct QspsFIRSpec_32fc QspsFIRSpec_32fc;
+typedef struct QspsFIRSpec_64fc QspsFIRSpec_64fc;
+typedef struct QspsFIRSpec32f_32fc QspsFIRSpec32f_32fc;
+/* IIR states. A precision before the underscore names the arithmetic and
+ * the state, the code after it the data (64f_32s: double state, 32s data). */
+typedef struct QspsIIRState_32f QspsIIRState_32f;
+typedef struct QspsIIRState_32fc QspsIIRState_32fc;
+typedef struct QspsIIRState32f_16s QspsIIRState32f_16s;
+typedef struct QspsIIRState32fc_16sc QspsIIRState32fc_16sc;
+typedef struct QspsIIRState_64f QspsIIRState_64f;
+typedef struct QspsIIRState_64fc QspsIIRState_64fc;
+typedef struct QspsIIRState64f_32f QspsIIRState64f_32f;
+typedef struct QspsIIRState64fc_32fc QspsIIRState64fc_32fc;
+typedef struct QspsIIRState64f_32s QspsIIRState64f_32s;
+typedef struct QspsIIRState64fc_32sc QspsIIRState64fc_32sc;
+typedef struct QspsIIRState64f_16s QspsIIRState64f_16s;
+typedef struct QspsIIRState64fc_16sc QspsIIRState64fc_16sc;
+
 /* Version record returned by qspsGetLibVersion. One constant record in the
  * library's read-only data; never written, never freed by the caller. */
 typedef struct {

@@ -1,0 +1,178 @@
+#!/usr/bin/env python3
+"""Counts the exports of the API table by suffix and by type code.
+
+How a name is counted. The name is cut at its underscores after the prefix
+"qsps"; the first piece is the operation stem (with any precision written
+into it, as the 64f of IIR64f or the 32f of FIRSRInit32f, which is part of
+the stem and not a type code). Of the remaining pieces:
+
+  - a piece made only of type codes (digits followed by u, s or f, with an
+    optional c for complex: 32f, 64fc, 16s32f, 16s16sc64sc, 24u, 1u) is a type
+    piece; each type code it contains counts once for the name, so
+    qspsConvert_16s32f counts for 16s and for 32f, and qspsDotProd_32f is one
+    32f however often 32f is written;
+  - a piece equal to I, L, Sfs or ISfs is a suffix and counts for that
+    suffix: qspsFlip_32f_I_L carries I and L, qspsMulC_32s_ISfs_L carries
+    ISfs and L. ISfs is its own suffix (it is not also counted as I or as
+    Sfs), and longer pieces that merely contain these letters (IP, PSfs,
+    IPSfs) and the mode words (L1, L2, L2Sqr, ...) are not suffixes;
+  - every other piece is a mode word (CToC, LTVal, BiQuad, ...).
+
+Usage: api_counts.py TABLE [--expect-total N] [--markdown OUT]
+Exit status 1 when a name repeats, a name does not start with qsps, or the
+total differs from --expect-total.
+"""
+import argparse
+import collections
+import os
+import re
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import qspapi  # noqa: E402
+
+TYPE_PIECE = re.compile(r'^(?:\d+[usf]c?)+$')
+TYPE_CODE = re.compile(r'\d+[usf]c?')
+SUFFIXES = ('I', 'L', 'Sfs', 'ISfs')
+
+
+def pieces(name):
+    """Stem, type codes (distinct, in order), suffixes and mode words of a name."""
+    parts = name[len('qsps'):].split('_')
+    codes, suffixes, modes = [], [], []
+    for p in parts[1:]:
+        if TYPE_PIECE.match(p):
+            for c in TYPE_CODE.findall(p):
+                if c not in codes:
+                    codes.append(c)
+        elif p in SUFFIXES:
+            suffixes.append(p)
+        else:
+            modes.append(p)
+    return parts[0], codes, suffixes, modes
+
+
+def count(exports):
+    by_suffix = collections.Counter()
+    by_type = collections.Counter()
+    for e in exports:
+        _, codes, suffixes, _ = pieces(e.name)
+        by_suffix.update(set(suffixes))
+        by_type.update(codes)
+    return by_suffix, by_type
+
+
+def markdown(families, by_suffix, by_type, total):
+    out = []
+    w = out.append
+    w('# The functions of libqspsy8')
+    w('')
+    w('This page is generated from the API table `api/qsps.api` by')
+    w('`tools/api_counts.py --markdown`; edit the table, not this page.')
+    w('The table holds every export with its full C signature and the')
+    w('documentation of its family; `include/qsps.h` declares the exports that')
+    w('are implemented (`+` rows) and nothing else.')
+    w('')
+    w('## Reading a name')
+    w('')
+    w('Every name is `qsps` + operation + `_` + type codes + suffixes, each')
+    w('further piece separated by `_`:')
+    w('')
+    w('- **Operation** in upper camel case: `Add`, `MulC` (C: one operand is a')
+    w('  constant), `SubCRev` (Rev: the constant is the left operand), `FFTFwd`,')
+    w('  `WinHann`. Size queries end in `GetSize`, `GetStateSize` or')
+    w('  `GetBufferSize`, initialisers of records in `Init`. A precision written')
+    w('  into the operation (`IIR64f_32s`, `FIRSRInit32f_32fc`) names the')
+    w('  arithmetic or the record, the type code after it the data.')
+    w('- **Mode words** between operation and types choose a variant:')
+    w('  `LT`, `GT`, `LTVal`, `GTVal`, `LTAbs`, `GTAbs`, `LTInv`, `LTValGTVal`,')
+    w('  `LTAbsVal` (Threshold), `Inf`, `L1`, `L2`, `L2Sqr` (norms), `Round`')
+    w('  (takes a rounding mode), `CToC`, `RToPack`, `RToPerm`, `RToCCS`,')
+    w('  `PackToR`, `PermToR`, `CCSToR` (transforms), `BiQuad`, `DF1` (IIR),')
+    w('  `Direct` (no transform record) and a few more named in their family.')
+    w('- **Type codes**: `8u 8s 16u 16s 32u 32s 64u 64s` integers (u unsigned,')
+    w('  s signed), `16f 32f 64f` IEEE floats, a trailing `c` for a complex')
+    w('  pair (real part first), `24u 24s` packed three-byte integers, `1u` bit')
+    w('  strings. With two or three codes the sources come first and the')
+    w('  destination last: `Convert_16s32f` reads 16s and writes 32f,')
+    w('  `Norm_L2_32fc64f` reads 32fc and returns 64f.')
+    w('- **Suffixes**, in this order: `I` in place (one pointer `pSrcDst` is both')
+    w('  source and destination), `Sfs` integer result scaled by')
+    w('  2^-scaleFactor, rounded to nearest even and saturated (`scaleFactor` is')
+    w('  the last argument), `ISfs` both, `L` 64-bit lengths (`Qsp64s len`).')
+    w('  A few IIR members carry `P` (several channels) in `_P`, `_IP`, `_PSfs`,')
+    w('  `_IPSfs`.')
+    w('')
+    w('Arguments always come in this order: sources, destination, length, mode')
+    w('arguments, scale factor; records and work buffers after the data.')
+    w('')
+    w('To find a function: take the operation, look its family up below, then')
+    w('pick the row in `api/qsps.api` (the family\'s block there says the formula,')
+    w('operand order and scaling) whose type codes and suffixes match your data.')
+    w('')
+    w('## Families')
+    w('')
+    w('| Family | Folder | Functions | Implemented |')
+    w('|---|---|---:|---:|')
+    for fam in families:
+        done = sum(1 for e in fam.exports if e.implemented)
+        w('| %s | %s | %d | %d |' % (fam.name, fam.folder, len(fam.exports), done))
+    implemented = sum(1 for fam in families for e in fam.exports if e.implemented)
+    w('| **all** | | **%d** | **%d** |' % (total, implemented))
+    w('')
+    w('## Counts')
+    w('')
+    w('Counted as `tools/api_counts.py` states in its description: a name counts')
+    w('once for each suffix piece it carries (ISfs is not also I or Sfs) and')
+    w('once for each distinct type code in its type pieces.')
+    w('')
+    w('| Suffix | Names |')
+    w('|---|---:|')
+    for s in SUFFIXES:
+        w('| `%s` | %d |' % (s, by_suffix[s]))
+    w('')
+    w('| Type code | Names |')
+    w('|---|---:|')
+    for code, n in sorted(by_type.items(), key=lambda kv: (-kv[1], kv[0])):
+        w('| `%s` | %d |' % (code, n))
+    w('')
+    return '\n'.join(out)
+
+
+def main():
+    ap = argparse.ArgumentParser(description='Counts the exports of the API table.')
+    ap.add_argument('table')
+    ap.add_argument('--expect-total', type=int)
+    ap.add_argument('--markdown', metavar='OUT', help='write the families page to OUT')
+    a = ap.parse_args()
+
+    try:
+        families = qspapi.load(a.table)
+    except SyntaxError as err:  # a repeated name is reported here too
+        print('error: %s' % err)
+        return 1
+    exports = qspapi.exports(families)
+    ok = True
+    for e in exports:
+        if not e.name.startswith('qsps'):
+            print('error: %s does not start with qsps' % e.name)
+            ok = False
+    by_suffix, by_type = count(exports)
+    total = len(exports)
+    print('total %d (implemented %d, planned %d)' % (
+        total, sum(e.implemented for e in exports), sum(not e.implemented for e in exports)))
+    print('families %d' % len(families))
+    print('suffixes: ' + ', '.join('%s %d' % (s, by_suffix[s]) for s in SUFFIXES))
+    print('type codes: ' + ', '.join('%s %d' % (c, n) for c, n in
+                                     sorted(by_type.items(), key=lambda kv: (-kv[1], kv[0]))))
+    if a.expect_total is not None and total != a.expect_total:
+        print('error: %d rows, expected %d' % (total, a.expect_total))
+        ok = False
+    if a.markdown:
+        with open(a.markdown, 'w', encoding='utf-8') as f:
+            f.write(markdown(families, by_suffix, by_type, total))
+    return 0 if ok else 1
+
+
+if __name__ == '__main__':
+    sys.exit(main())
