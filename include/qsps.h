@@ -458,6 +458,56 @@ QspStatus qspsConjCcs_64fc_I(Qsp64fc* pSrcDst, int len);
 QspStatus qspsConjCcs_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
 
+/* SortRadix --------------------------------------------------------------- */
+/*
+ * In-place radix sorts, ascending or descending, with a work buffer of
+ * qspsSortRadixGetBufferSize(len, type) bytes (no alignment needed; the
+ * sort overwrites it). The size query takes a data-type code: qsp8u (len +
+ * 1024 bytes), qsp16u or qsp16s (2*len + 2048), qsp32u, qsp32s or qsp32f
+ * (4*len + 20480), qsp64u or qsp64s (8*len + 81920), qsp64f (8*len +
+ * 40960); any other code writes 0 and returns qspStsBadDataType. A size
+ * that does not fit the result type gives qspStsOverflow (_L: 2^63 or
+ * more) and writes nothing. Checks: size pointer, then len below 1.
+ * Sorts: pSrcDst or pBuffer null gives qspStsNullPtr, len below 1
+ * qspStsBadSize; _L forms take a 64-bit len and check it first.
+ * Order: integers by value. Floating values by the total order of their
+ * bit patterns: -NaN < -Inf < ... < -0.0 < +0.0 < ... < +Inf < +NaN (NaNs
+ * among themselves by payload); descending is the exact reverse. Bytes are
+ * sorted by counting; wider types by stable radix passes of 8 bits
+ * (16-bit), 11+11+10 bits (32-bit) or 4x11+2x10 bits (64-bit).
+ * Thread-safe when no two calls share a vector or buffer.
+ */
+QspStatus qspsSortRadixGetBufferSize(int len, QspDataType dataType, int* pBufferSize);
+QspStatus qspsSortRadixGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize);
+QspStatus qspsSortRadixAscend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+
 #ifdef __cplusplus
 }
 #endif

@@ -38,6 +38,10 @@ inline void storeOne(T* p, const T& x)
     __builtin_memcpy(p, &x, sizeof(T));
 }
 
+// Asks for the cache line holding p ahead of its use. Only a hint: it never
+// faults, whatever the address.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+
 // Operations on the raw 128 bits, shared by all integer element types.
 struct IntRegOps {
     using Reg = __m128i;
