@@ -116,6 +116,9 @@ void floatC(Fn fn, Exact exact, double ulps, FnI fnI = nullptr)
     }
 }
 
+// A 64-bit length function called with an int length, as the sweeps do.
+inline auto viaL = [](auto fnL) { return [=](auto... args) { return fnL(args...); }; };
+
 using LD = long double;
 using LDC = std::pair<long double, long double>;
 
