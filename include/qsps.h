@@ -317,6 +317,51 @@ QspStatus qspsSub_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
 QspStatus qspsSub_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsSub_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
 
+/* Mul --------------------------------------------------------------------- */
+/*
+ * Element-wise product: pDst[i] = pSrc1[i] * pSrc2[i]; in place pSrcDst[i] *=
+ * pSrc[i]. Complex operands use the complex product. Mixed forms: 32f32fc
+ * multiplies a complex vector (second source, or pSrcDst) by a real one;
+ * 16u16s and 16s32s widen. Integer forms round and saturate as Add does; the
+ * exact product of two 16s values lies in [-1073709056, 1073741824].
+ */
+QspStatus qspsMul_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMul_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMul_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMul_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+QspStatus qspsMul_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsMul_32fc_I(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsMul_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int len);
+QspStatus qspsMul_64fc_I(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, int len);
+QspStatus qspsMul_32f32fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsMul_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMul_8u16u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMul_32f32fc_I(const Qsp32f* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsMul_8u_Sfs(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsMul_8u_ISfs(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16s_ISfs(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_16u_Sfs(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16u_ISfs(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32s_ISfs(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_16sc_Sfs(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16sc_ISfs(const Qsp16sc* pSrc, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_32sc_Sfs(const Qsp32sc* pSrc1, const Qsp32sc* pSrc2, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32sc_ISfs(const Qsp32sc* pSrc, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_32f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsMul_32f_I_L(const Qsp32f* pSrc, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsMul_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsMul_64f_I_L(const Qsp64f* pSrc, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsMul_32fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsMul_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsMul_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsMul_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
+QspStatus qspsMul_16u16s_Sfs(const Qsp16u* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32s32sc_Sfs(const Qsp32s* pSrc1, const Qsp32sc* pSrc2, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32s32sc_ISfs(const Qsp32s* pSrc, Qsp32sc* pSrcDst, int len, int scaleFactor);
+
 #ifdef __cplusplus
 }
 #endif

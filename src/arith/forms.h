@@ -135,12 +135,12 @@ void runScaled(D* pDst, Qsp64s len, Op op, Mode mode, const S*... pSrc)
     }
 }
 
-// The scale-factor selection for a result range R and destination D, with
-// the zero fill of D's width.
+// The scale-factor selection for a result range R and destination D (its
+// part type for a complex D), with the zero fill of D's width.
 template <ops::Range R, class D, class Kernel>
 QspStatus scaled(int scaleFactor, D* pDst, int len, Kernel kernel)
 {
-    constexpr scaling::Limits lim = scaling::limitsFor<D>(R.lo, R.hi);
+    constexpr scaling::Limits lim = scaling::limitsFor<ops::Part<D>>(R.lo, R.hi);
     return scaling::select(scaleFactor, lim, kernel, [=] { return zeroFill(pDst, len); });
 }
 
