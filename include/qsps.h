@@ -362,6 +362,108 @@ QspStatus qspsMul_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32s* p
 QspStatus qspsMul_32s32sc_Sfs(const Qsp32s* pSrc1, const Qsp32sc* pSrc2, Qsp32sc* pDst, int len, int scaleFactor);
 QspStatus qspsMul_32s32sc_ISfs(const Qsp32s* pSrc, Qsp32sc* pSrcDst, int len, int scaleFactor);
 
+/* AddC -------------------------------------------------------------------- */
+/*
+ * Adds a constant: pDst[i] = pSrc[i] + val; in place pSrcDst[i] += val.
+ * Scaling, saturation and the _L chunking as for Add.
+ */
+QspStatus qspsAddC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsAddC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsAddC_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsAddC_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsAddC_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsAddC_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsAddC_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsAddC_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsAddC_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsAddC_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsAddC_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsAddC_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsAddC_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsAddC_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsAddC_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsAddC_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+
+/* SubC -------------------------------------------------------------------- */
+/*
+ * Subtracts a constant: pDst[i] = pSrc[i] - val; in place pSrcDst[i] -= val.
+ * Scaling, saturation and the _L chunking as for Add.
+ */
+QspStatus qspsSubC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsSubC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsSubC_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsSubC_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsSubC_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsSubC_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsSubC_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsSubC_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsSubC_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsSubC_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSubC_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsSubC_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsSubC_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsSubC_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsSubC_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsSubC_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+
+/* SubCRev ----------------------------------------------------------------- */
+/*
+ * Subtracts from a constant: pDst[i] = val - pSrc[i]; in place pSrcDst[i] =
+ * val - pSrcDst[i]. Scaling, saturation and the _L chunking as for Add.
+ */
+QspStatus qspsSubCRev_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsSubCRev_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsSubCRev_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsSubCRev_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsSubCRev_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsSubCRev_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsSubCRev_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsSubCRev_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsSubCRev_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsSubCRev_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSubCRev_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsSubCRev_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsSubCRev_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsSubCRev_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsSubCRev_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+
 #ifdef __cplusplus
 }
 #endif
