@@ -232,6 +232,36 @@ QspStatus qspsCopyBE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int ds
  * rounded to nearest.
  */
 QspStatus qspsMulC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsMulC_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsMulC_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsMulC_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsMulC_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsMulC_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsMulC_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsMulC_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_32f16s_Sfs(const Qsp32f* pSrc, Qsp32f val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsMulC_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsMulC_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsMulC_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsMulC_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_32s_Sfs_L(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, Qsp64s len, int scaleFactor);
+QspStatus qspsMulC_32s_ISfs_L(Qsp32s val, Qsp32s* pSrcDst, Qsp64s len, int scaleFactor);
 
 /* Add --------------------------------------------------------------------- */
 /*

@@ -45,8 +45,15 @@ void sfs2(QspStatus (*fn)(const S1*, const S2*, D*, int, int), Exact exact, FnI 
 
 // The same for a vector and a constant: fn(pSrc, val, pDst, len, sf) and
 // fnI(val, pSrcDst, len, sf); exact(a, val).
+template <class S, class D, class C, class Fn, class Exact, class FnI = std::nullptr_t>
+void sfsCT(Fn fn, Exact exact, FnI fnI = nullptr);
 template <class S, class D, class C, class Exact, class FnI = std::nullptr_t>
 void sfsC(QspStatus (*fn)(const S*, C, D*, int, int), Exact exact, FnI fnI = nullptr)
+{
+    sfsCT<S, D, C>(fn, exact, fnI);
+}
+template <class S, class D, class C, class Fn, class Exact, class FnI>
+void sfsCT(Fn fn, Exact exact, FnI fnI)
 {
     const std::vector<C> consts = arithsweep::gen<C>(3);
     for (int sf = -40; sf <= 40; ++sf) {
