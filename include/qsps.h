@@ -494,6 +494,43 @@ QspStatus qspsSubCRev_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
 
+/* Div --------------------------------------------------------------------- */
+/*
+ * Element-wise quotient, second source divided by the first: pDst[i] =
+ * pSrc2[i] / pSrc1[i]; in place pSrcDst[i] = pSrcDst[i] / pSrc[i]. When any
+ * divisor element compares equal to zero the whole output is still written and
+ * the warning qspStsWarnDivByZero is returned; integer quotients by zero are the
+ * type's maximum for a positive dividend, its minimum for a negative one and 0
+ * for 0. Integer forms scale, round to nearest even and saturate. _L forms
+ * chunk as Add does.
+ */
+QspStatus qspsDiv_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsDiv_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsDiv_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsDiv_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+QspStatus qspsDiv_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsDiv_32fc_I(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsDiv_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int len);
+QspStatus qspsDiv_64fc_I(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, int len);
+QspStatus qspsDiv_8u_Sfs(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_8u_ISfs(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_16s_ISfs(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_16u_Sfs(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_16u_ISfs(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_32s_ISfs(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_16sc_Sfs(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_16sc_ISfs(const Qsp16sc* pSrc, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_32f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsDiv_32f_I_L(const Qsp32f* pSrc, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsDiv_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsDiv_64f_I_L(const Qsp64f* pSrc, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsDiv_32fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsDiv_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsDiv_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsDiv_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
+
 #ifdef __cplusplus
 }
 #endif

@@ -93,7 +93,7 @@ struct Mul {
     template <class R>
     R reg(R a, R b) const
     {
-        if constexpr (std::is_same_v<R, __m128i>) return VecFor<R>::mullo(a, b);
+        if constexpr (std::is_same_v<VecFor<R>, simd::Vec<Qsp32s>>) return VecFor<R>::mullo(a, b);
         else return VecFor<R>::mul(a, b);
     }
     template <class W>
