@@ -227,6 +227,13 @@ struct Vec<Qsp16s> : IntRegOps {
     // Two registers of 32-bit lanes narrowed to 16-bit lanes with signed
     // saturation (a first).
     static Reg packs32(Reg a, Reg b) { return _mm_packs_epi32(a, b); }
+    // Sums of the products of adjacent lane pairs, in 32-bit lanes.
+    static Reg madd(Reg a, Reg b) { return _mm_madd_epi16(a, b); }
+    // Full 32-bit products of lanes 0..3 and 4..7.
+    static Reg mulWideLo(Reg a, Reg b) { return _mm_unpacklo_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
+    static Reg mulWideHi(Reg a, Reg b) { return _mm_unpackhi_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
+    // Lanes exchanged within each pair (the parts of complex elements).
+    static Reg swapPairs(Reg a) { return _mm_shufflehi_epi16(_mm_shufflelo_epi16(a, 0xB1), 0xB1); }
 };
 
 template <>
@@ -251,6 +258,11 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg sll(Reg a, Reg n) { return _mm_sll_epi32(a, n); }
     static Reg srl(Reg a, Reg n) { return _mm_srl_epi32(a, n); }
     static Reg srai1(Reg a) { return _mm_srai_epi32(a, 1); }
+    // Differences of adjacent lane pairs: a0-a1, a2-a3, b0-b1, b2-b3.
+    static Reg hsub(Reg a, Reg b) { return _mm_hsub_epi32(a, b); }
+    static Reg hadd(Reg a, Reg b) { return _mm_hadd_epi32(a, b); }
+    static Reg interleaveLo(Reg a, Reg b) { return _mm_unpacklo_epi32(a, b); }
+    static Reg interleaveHi(Reg a, Reg b) { return _mm_unpackhi_epi32(a, b); }
     // Widening of the low or high half of a register of 16-bit lanes.
     static Reg lo16s(Reg a) { return _mm_cvtepi16_epi32(a); }
     static Reg hi16s(Reg a) { return _mm_cvtepi16_epi32(_mm_srli_si128(a, 8)); }
