@@ -56,8 +56,8 @@ struct CV {
     template <bool Conj>
     static R mul(R a, R w)
     {
-        const R re = V::mul(a, V::dupEven(w));
-        const R im = V::mul(V::swapPairs(a), V::dupOdd(w));
+        const R re = V::mul(a, V::dupRe(w));
+        const R im = V::mul(V::swapParts(a), V::dupIm(w));
         if constexpr (Conj)
             return V::addsub(re, V::bitXor(im, V::splat(T(-0.0))));
         else
@@ -68,9 +68,9 @@ struct CV {
     static R rot(R v)
     {
         if constexpr (Inv)
-            return V::negEven(V::swapPairs(v));
+            return V::negEven(V::swapParts(v));
         else
-            return V::negOdd(V::swapPairs(v));
+            return V::negOdd(V::swapParts(v));
     }
 };
 
