@@ -133,6 +133,12 @@ struct Vec<float> {
     }
     static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
     static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
+    // Split and join of complex pairs: evens/odds take the real/imaginary
+    // parts of a0 a1 b0 b1 (as pairs); zipLo/zipHi interleave two registers.
+    static Reg evens(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
+    static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
 };
 
 template <>
@@ -173,6 +179,10 @@ struct Vec<double> {
     static Reg highHalves(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); } // a1, b1
     static Reg negOdd(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(0.0, -0.0)); }
     static Reg negEven(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(-0.0, 0.0)); }
+    static Reg evens(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg odds(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
 };
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit

@@ -86,12 +86,98 @@ inline Halves<C<T>> halvesOf(C<T>* p, Qsp64s n)
     return {p, p + n / 2};
 }
 
+// Between passes the values are kept block-split: in each block of L
+// consecutive values (L = values per register: 4 float, 2 double) the L
+// real parts come first, then the L imaginary parts. A block starts at the
+// same address as the L interleaved values it replaces, so buffers,
+// offsets and halves are unchanged; the first pass reads interleaved data
+// and the last pass writes it.
+template <class T>
+struct SV {
+    using V = simd::Vec<T>;
+    using R = typename V::Reg;
+    static constexpr int L = V::lanes;
+    struct X {
+        R re, im;
+    };
+    template <bool Interleaved>
+    static X load(const C<T>* p)
+    {
+        const T* f = &p->re;
+        const R a = V::loadu(f), b = V::loadu(f + L);
+        if constexpr (Interleaved)
+            return {V::evens(a, b), V::odds(a, b)};
+        else
+            return {a, b};
+    }
+    template <bool Interleaved>
+    static void store(C<T>* p, X v)
+    {
+        T* f = &p->re;
+        if constexpr (Interleaved) {
+            V::storeu(f, V::zipLo(v.re, v.im));
+            V::storeu(f + L, V::zipHi(v.re, v.im));
+        } else {
+            V::storeu(f, v.re);
+            V::storeu(f + L, v.im);
+        }
+    }
+    static X add(X a, X b) { return {V::add(a.re, b.re), V::add(a.im, b.im)}; }
+    static X sub(X a, X b) { return {V::sub(a.re, b.re), V::sub(a.im, b.im)}; }
+    // a*w, or a*conj(w) for the inverse direction.
+    template <bool Conj>
+    static X mul(X a, X w)
+    {
+        if constexpr (Conj)
+            return {V::add(V::mul(a.re, w.re), V::mul(a.im, w.im)), V::sub(V::mul(a.im, w.re), V::mul(a.re, w.im))};
+        else
+            return {V::sub(V::mul(a.re, w.re), V::mul(a.im, w.im)), V::add(V::mul(a.re, w.im), V::mul(a.im, w.re))};
+    }
+    // The twiddle of index p of a block-split table, in every lane.
+    static X splat(const C<T>* table, Qsp64s p)
+    {
+        const T* f = &table->re + (p / L) * 2 * L + p % L;
+        return {V::splat(f[0]), V::splat(f[L])};
+    }
+};
+
+// The radix-4 butterfly on split registers: o0..o3 from a..d, before the
+// twiddles.
+template <class T, bool Inv>
+inline void butterfly4(typename SV<T>::X a, typename SV<T>::X b, typename SV<T>::X c, typename SV<T>::X d,
+                       typename SV<T>::X o[4])
+{
+    using K = SV<T>;
+    using V = typename K::V;
+    const auto apc = K::add(a, c), amc = K::sub(a, c), bpd = K::add(b, d), bmd = K::sub(b, d);
+    o[0] = K::add(apc, bpd);
+    o[2] = K::sub(apc, bpd);
+    // amc -+ i*bmd
+    if constexpr (Inv) {
+        o[1] = {V::sub(amc.re, bmd.im), V::add(amc.im, bmd.re)};
+        o[3] = {V::add(amc.re, bmd.im), V::sub(amc.im, bmd.re)};
+    } else {
+        o[1] = {V::add(amc.re, bmd.im), V::sub(amc.im, bmd.re)};
+        o[3] = {V::sub(amc.re, bmd.im), V::add(amc.im, bmd.re)};
+    }
+}
+
+// Twiddle entries of one pass's array of m values (rounded up to whole
+// blocks).
+template <class T>
+inline Qsp64s passArray(Qsp64s m)
+{
+    constexpr Qsp64s L = SV<T>::L;
+    return (m + L - 1) / L * L;
+}
+
 // Number of twiddles the radix-4 passes of an n-point transform read: three
 // arrays of n'/4 for every pass with sub-length n' >= 8.
+template <class T>
 inline Qsp64s passTwiddleCount(Qsp64s n)
 {
     Qsp64s count = 0;
-    for (Qsp64s cur = n; cur >= 8; cur >>= 2) count += 3 * (cur >> 2);
+    for (Qsp64s cur = n; cur >= 8; cur >>= 2) count += 3 * passArray<T>(cur >> 2);
     return count;
 }
 
@@ -99,112 +185,122 @@ inline Qsp64s passTwiddleCount(Qsp64s n)
 inline int passCount(int order) { return (order + 1) >> 1; }
 
 // Fills the pass twiddles of an n-point transform, n = 2^order, from an
-// octant of length 2^octOrder >= n.
+// octant of length 2^octOrder >= n, block-split.
 template <class T, class O>
 void ownsFillPassTwiddles(C<T>* tw, int order, const Octant<O>& oct)
 {
+    constexpr Qsp64s L = SV<T>::L;
     const Qsp64s n = Qsp64s(1) << order;
     for (Qsp64s cur = n; cur >= 8; cur >>= 2) {
-        const Qsp64s m = cur >> 2;
+        const Qsp64s m = cur >> 2, mp = passArray<T>(m);
         const Qsp64s step = (Qsp64s(1) << oct.order) / cur;
-        for (Qsp64s p = 0; p < m; ++p) {
-            for (int j = 1; j <= 3; ++j) {
-                const C<O> w = twiddle(oct, j * p * step);
-                tw[(j - 1) * m + p] = {T(w.re), T(w.im)};
+        for (int j = 1; j <= 3; ++j) {
+            T* f = &tw[(j - 1) * mp].re;
+            for (Qsp64s p = 0; p < mp; ++p) {
+                const C<O> w = p < m ? twiddle(oct, j * p * step) : C<O>{O(1), O(0)};
+                f[(p / L) * 2 * L + p % L] = T(w.re);
+                f[(p / L) * 2 * L + p % L + L] = T(w.im);
             }
         }
-        tw += 3 * m;
+        tw += 3 * mp;
     }
 }
 
 // ---------------------------------------------------------------- passes
 
-// General radix-4 pass, s >= CV<T>::per, n/4 >= 2.
-template <class T, bool Inv>
+// General radix-4 pass, s >= L, n/4 >= 2.
+template <class T, bool Inv, bool InI, bool OutI>
 void ownsPass4(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s ntot, Qsp64s n, Qsp64s s, const C<T>* tw)
 {
-    using K = CV<T>;
-    using V = typename K::V;
-    const Qsp64s m = n >> 2, quarter = ntot >> 2, half = ntot >> 1;
+    using K = SV<T>;
+    const Qsp64s m = n >> 2, mp = passArray<T>(m), quarter = ntot >> 2, half = ntot >> 1;
     for (Qsp64s p = 0; p < m; ++p) {
-        const auto w1 = K::splat(tw + p), w2 = K::splat(tw + m + p), w3 = K::splat(tw + 2 * m + p);
+        const auto w1 = K::splat(tw, p), w2 = K::splat(tw + mp, p), w3 = K::splat(tw + 2 * mp, p);
         const C<T>* a = x.lo + s * p;
         const C<T>* b = a + quarter;
         const C<T>* c = x.hi + s * p;
         const C<T>* d = c + quarter;
         C<T>* out = (p < (m >> 1)) ? y.lo + 4 * s * p : y.hi + (4 * s * p - half);
-        for (Qsp64s q = 0; q < s; q += K::per) {
-            const auto va = K::load(a + q), vb = K::load(b + q), vc = K::load(c + q), vd = K::load(d + q);
-            const auto apc = V::add(va, vc), amc = V::sub(va, vc);
-            const auto bpd = V::add(vb, vd), jbd = K::template rot<Inv>(V::sub(vb, vd));
-            K::store(out + q, V::add(apc, bpd));
-            K::store(out + s + q, K::template mul<Inv>(V::add(amc, jbd), w1));
-            K::store(out + 2 * s + q, K::template mul<Inv>(V::sub(apc, bpd), w2));
-            K::store(out + 3 * s + q, K::template mul<Inv>(V::sub(amc, jbd), w3));
+        for (Qsp64s q = 0; q < s; q += K::L) {
+            typename K::X o[4];
+            butterfly4<T, Inv>(K::template load<InI>(a + q), K::template load<InI>(b + q),
+                               K::template load<InI>(c + q), K::template load<InI>(d + q), o);
+            K::template store<OutI>(out + q, o[0]);
+            K::template store<OutI>(out + s + q, K::template mul<Inv>(o[1], w1));
+            K::template store<OutI>(out + 2 * s + q, K::template mul<Inv>(o[2], w2));
+            K::template store<OutI>(out + 3 * s + q, K::template mul<Inv>(o[3], w3));
         }
     }
 }
 
-// First radix-4 pass of a standalone transform (s = 1, n = ntot >= 16):
-// vectorised over p, with the outputs of two p values interleaved.
-template <class T, bool Inv>
+// First radix-4 pass of a standalone transform (s = 1, n = ntot, n/4 >= 2L):
+// vectorised over p; the four outputs of L consecutive p values are
+// transposed into L whole blocks.
+template <class T, bool Inv, bool InI>
 void ownsPass4First(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
 {
-    using K = CV<T>;
+    using K = SV<T>;
     using V = typename K::V;
-    if constexpr (K::per == 1) {
-        ownsPass4<T, Inv>(x, y, n, n, 1, tw);
-    } else {
-        const Qsp64s m = n >> 2, half = n >> 1;
-        for (Qsp64s p = 0; p < m; p += 2) {
-            const auto w1 = K::load(tw + p), w2 = K::load(tw + m + p), w3 = K::load(tw + 2 * m + p);
-            const auto va = K::load(x.lo + p), vb = K::load(x.lo + m + p);
-            const auto vc = K::load(x.hi + p), vd = K::load(x.hi + m + p);
-            const auto apc = V::add(va, vc), amc = V::sub(va, vc);
-            const auto bpd = V::add(vb, vd), jbd = K::template rot<Inv>(V::sub(vb, vd));
-            const auto o0 = V::add(apc, bpd);
-            const auto o1 = K::template mul<Inv>(V::add(amc, jbd), w1);
-            const auto o2 = K::template mul<Inv>(V::sub(apc, bpd), w2);
-            const auto o3 = K::template mul<Inv>(V::sub(amc, jbd), w3);
-            C<T>* out = (p < (m >> 1)) ? y.lo + 4 * p : y.hi + (4 * p - half);
-            K::store(out, V::lowHalves(o0, o1));
-            K::store(out + 2, V::lowHalves(o2, o3));
-            K::store(out + 4, V::highHalves(o0, o1));
-            K::store(out + 6, V::highHalves(o2, o3));
+    using X = typename K::X;
+    constexpr Qsp64s L = K::L;
+    const Qsp64s m = n >> 2, mp = passArray<T>(m), half = n >> 1;
+    for (Qsp64s p = 0; p < m; p += L) {
+        const X w1 = K::template load<false>(tw + p), w2 = K::template load<false>(tw + mp + p),
+                w3 = K::template load<false>(tw + 2 * mp + p);
+        X o[4];
+        butterfly4<T, Inv>(K::template load<InI>(x.lo + p), K::template load<InI>(x.lo + m + p),
+                           K::template load<InI>(x.hi + p), K::template load<InI>(x.hi + m + p), o);
+        o[1] = K::template mul<Inv>(o[1], w1);
+        o[2] = K::template mul<Inv>(o[2], w2);
+        o[3] = K::template mul<Inv>(o[3], w3);
+        C<T>* out = (p < (m >> 1)) ? y.lo + 4 * p : y.hi + (4 * p - half);
+        if constexpr (L == 4) {
+            // Block b holds y[4(p+b) + k], k = 0..3: column b of o[0..3].
+            typename V::Reg r0 = o[0].re, r1 = o[1].re, r2 = o[2].re, r3 = o[3].re;
+            typename V::Reg i0 = o[0].im, i1 = o[1].im, i2 = o[2].im, i3 = o[3].im;
+            _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
+            _MM_TRANSPOSE4_PS(i0, i1, i2, i3);
+            K::template store<false>(out, X{r0, i0});
+            K::template store<false>(out + 4, X{r1, i1});
+            K::template store<false>(out + 8, X{r2, i2});
+            K::template store<false>(out + 12, X{r3, i3});
+        } else {
+            // Blocks of two: (o0, o1) and (o2, o3) of p, then of p + 1.
+            K::template store<false>(out, X{V::zipLo(o[0].re, o[1].re), V::zipLo(o[0].im, o[1].im)});
+            K::template store<false>(out + 2, X{V::zipLo(o[2].re, o[3].re), V::zipLo(o[2].im, o[3].im)});
+            K::template store<false>(out + 4, X{V::zipHi(o[0].re, o[1].re), V::zipHi(o[0].im, o[1].im)});
+            K::template store<false>(out + 6, X{V::zipHi(o[2].re, o[3].re), V::zipHi(o[2].im, o[3].im)});
         }
     }
 }
 
-// Last radix-4 pass (n = 4, no twiddles), ntot/4 >= per.
-template <class T, bool Inv>
+// Last radix-4 pass (n = 4, no twiddles), ntot/4 >= L.
+template <class T, bool Inv, bool InI, bool OutI>
 void ownsPass4Last(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s ntot)
 {
-    using K = CV<T>;
-    using V = typename K::V;
+    using K = SV<T>;
     const Qsp64s quarter = ntot >> 2;
-    for (Qsp64s q = 0; q < quarter; q += K::per) {
-        const auto va = K::load(x.lo + q), vb = K::load(x.lo + quarter + q);
-        const auto vc = K::load(x.hi + q), vd = K::load(x.hi + quarter + q);
-        const auto apc = V::add(va, vc), amc = V::sub(va, vc);
-        const auto bpd = V::add(vb, vd), jbd = K::template rot<Inv>(V::sub(vb, vd));
-        K::store(y.lo + q, V::add(apc, bpd));
-        K::store(y.lo + quarter + q, V::add(amc, jbd));
-        K::store(y.hi + q, V::sub(apc, bpd));
-        K::store(y.hi + quarter + q, V::sub(amc, jbd));
+    for (Qsp64s q = 0; q < quarter; q += K::L) {
+        typename K::X o[4];
+        butterfly4<T, Inv>(K::template load<InI>(x.lo + q), K::template load<InI>(x.lo + quarter + q),
+                           K::template load<InI>(x.hi + q), K::template load<InI>(x.hi + quarter + q), o);
+        K::template store<OutI>(y.lo + q, o[0]);
+        K::template store<OutI>(y.lo + quarter + q, o[1]);
+        K::template store<OutI>(y.hi + q, o[2]);
+        K::template store<OutI>(y.hi + quarter + q, o[3]);
     }
 }
 
-// Last radix-2 pass (n = 2), ntot/2 >= per.
-template <class T>
+// Last radix-2 pass (n = 2), ntot/2 >= L.
+template <class T, bool InI, bool OutI>
 void ownsPass2Last(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s ntot)
 {
-    using K = CV<T>;
-    using V = typename K::V;
+    using K = SV<T>;
     const Qsp64s half = ntot >> 1;
-    for (Qsp64s q = 0; q < half; q += K::per) {
-        const auto va = K::load(x.lo + q), vb = K::load(x.hi + q);
-        K::store(y.lo + q, V::add(va, vb));
-        K::store(y.hi + q, V::sub(va, vb));
+    for (Qsp64s q = 0; q < half; q += K::L) {
+        const auto a = K::template load<InI>(x.lo + q), b = K::template load<InI>(x.hi + q);
+        K::template store<OutI>(y.lo + q, K::add(a, b));
+        K::template store<OutI>(y.hi + q, K::sub(a, b));
     }
 }
 
@@ -217,21 +313,21 @@ inline Halves<const C<T>> asConst(Halves<C<T>> h)
 template <class T>
 void ownsCopyHalves(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n)
 {
-    using K = CV<T>;
     const Qsp64s half = n >> 1;
-    for (Qsp64s q = 0; q < half; q += K::per) {
-        K::store(y.lo + q, K::load(x.lo + q));
-        K::store(y.hi + q, K::load(x.hi + q));
+    for (Qsp64s q = 0; q < half; ++q) {
+        y.lo[q] = x.lo[q];
+        y.hi[q] = x.hi[q];
     }
 }
 
 // ---------------------------------------------------------------- medium
 
 // Runs the passes of a batch of s0 interleaved n-point transforms held in
-// ntot = n*s0 values (s0 = 1: one transform). The first pass reads x; the
-// passes alternate between the writable buffers a and b and the last one
-// writes a. x may be a or b only where the caller has arranged that the
-// first pass does not write it (see ownsFftMedium).
+// ntot = n*s0 values (s0 = 1: one transform; n >= 8). The first pass reads
+// x; the passes alternate between the writable buffers a and b and the
+// last one writes a. x and the result are interleaved. x may be a or b only
+// where the caller has arranged that the first pass does not write it (see
+// ownsFftMedium).
 template <class T, bool Inv>
 void ownsRunPasses(Halves<const C<T>> x, Halves<C<T>> a, Halves<C<T>> b, int order, Qsp64s s0, const C<T>* tw)
 {
@@ -241,15 +337,19 @@ void ownsRunPasses(Halves<const C<T>> x, Halves<C<T>> a, Halves<C<T>> b, int ord
     Halves<C<T>> out = (passes & 1) ? a : b;
     Qsp64s cur = n, s = s0;
     for (int i = 0; i < passes; ++i) {
-        if (cur == 2)
-            ownsPass2Last<T>(in, out, ntot);
-        else if (cur == 4)
-            ownsPass4Last<T, Inv>(in, out, ntot);
-        else if (s == 1)
-            ownsPass4First<T, Inv>(in, out, ntot, tw);
-        else
-            ownsPass4<T, Inv>(in, out, ntot, cur, s, tw);
-        if (cur >= 8) tw += 3 * (cur >> 2);
+        const bool first = i == 0;
+        if (cur == 2) {
+            ownsPass2Last<T, false, true>(in, out, ntot);
+        } else if (cur == 4) {
+            ownsPass4Last<T, Inv, false, true>(in, out, ntot);
+        } else if (s == 1) {
+            ownsPass4First<T, Inv, true>(in, out, ntot, tw);
+        } else if (first) {
+            ownsPass4<T, Inv, true, false>(in, out, ntot, cur, s, tw);
+        } else {
+            ownsPass4<T, Inv, false, false>(in, out, ntot, cur, s, tw);
+        }
+        if (cur >= 8) tw += 3 * passArray<T>(cur >> 2);
         cur >>= 2;
         s <<= 2;
         in = asConst(out);
@@ -257,9 +357,8 @@ void ownsRunPasses(Halves<const C<T>> x, Halves<C<T>> a, Halves<C<T>> b, int ord
     }
 }
 
-// One n-point transform (order >= 4 for float, >= 2 for double) from x into
-// a, with b as the second buffer. x may equal a (in place); it is never
-// written otherwise.
+// One n-point transform (n >= 8L) from x into a, with b as the second
+// buffer. x may equal a (in place); it is never written otherwise.
 template <class T, bool Inv>
 void ownsFftMedium(Halves<const C<T>> x, Halves<C<T>> a, Halves<C<T>> b, int order, const C<T>* tw)
 {
@@ -380,10 +479,11 @@ inline int largeRowOrder(int order) { return order < 20 ? 4 : 8; }
 constexpr int kLargeBatch = 8;
 
 // Twiddle and scratch counts of the large algorithm.
+template <class T>
 inline Qsp64s largeTwiddleCount(int order)
 {
     const int n1 = largeRowOrder(order), n2 = order - n1;
-    return passTwiddleCount(Qsp64s(1) << n2) + passTwiddleCount(Qsp64s(1) << n1) + (Qsp64s(1) << order);
+    return passTwiddleCount<T>(Qsp64s(1) << n2) + passTwiddleCount<T>(Qsp64s(1) << n1) + (Qsp64s(1) << order);
 }
 inline Qsp64s largeScratchCount(int order) { return 2 * (Qsp64s(kLargeBatch) << largeRowOrder(order)); }
 
@@ -394,9 +494,9 @@ void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
 {
     const int n1 = largeRowOrder(order), n2 = order - n1;
     ownsFillPassTwiddles<T>(tw, n2, oct);
-    tw += passTwiddleCount(Qsp64s(1) << n2);
+    tw += passTwiddleCount<T>(Qsp64s(1) << n2);
     ownsFillPassTwiddles<T>(tw, n1, oct);
-    tw += passTwiddleCount(Qsp64s(1) << n1);
+    tw += passTwiddleCount<T>(Qsp64s(1) << n1);
     const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, step = Qsp64s(1) << (oct.order - order);
     for (Qsp64s b = 0; b < rows; ++b) {
         for (Qsp64s k = 0; k < cols; ++k) {
@@ -439,8 +539,8 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     const int n1 = largeRowOrder(order), n2 = order - n1;
     const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, half = (Qsp64s(1) << order) >> 1;
     const C<T>* rowTw = tw;
-    const C<T>* colTw = rowTw + passTwiddleCount(cols);
-    const C<T>* grid = colTw + passTwiddleCount(rows);
+    const C<T>* colTw = rowTw + passTwiddleCount<T>(cols);
+    const C<T>* grid = colTw + passTwiddleCount<T>(rows);
     C<T>* scratchA = work + (Qsp64s(1) << order);
     C<T>* scratchB = scratchA + (Qsp64s(kLargeBatch) << n1);
 

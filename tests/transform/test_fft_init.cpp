@@ -148,7 +148,7 @@ TEST(FFTInit, SplitRecordsAreInterleavedOnesWithTheirOwnIdentifier)
         EXPECT_EQ(header(ra)->id, 5u);
         EXPECT_EQ(header(rb)->id, 6u);
         // Same twiddle tables, value for value.
-        const size_t count = order <= 5 ? 0 : (size_t)fft::passTwiddleCount(1LL << order);
+        const size_t count = order <= 5 ? 0 : (size_t)fft::passTwiddleCount<float>(1LL << order);
         EXPECT_EQ(0, memcmp(header(ra)->twiddles, header(rb)->twiddles, count * 8));
     }
 }
