@@ -374,89 +374,121 @@ void ownsFftMedium(Halves<const C<T>> x, Halves<C<T>> a, Halves<C<T>> b, int ord
 
 // ---------------------------------------------------------------- small
 
-// Twiddles W_32^k, 0 <= k < 32, for the straight-line kernels.
-template <class T>
-struct SmallTwiddles {
-    C<T> w[32];
+// The straight-line kernels, orders 0..5. Orders 0..3 are written out on
+// scalars; orders 4 and 5 run the radix-4 passes on registers with a
+// built-in twiddle table and a buffer on the stack. Scaled variants multiply
+// by the factor as they store.
+
+// Pass twiddles of a 2^Order-point transform, block-split, computed by the
+// compiler from the library's sine and cosine.
+template <class T, int Order>
+struct SmallPassTwiddles {
+    C<T> w[3 * (1 << Order)];
 };
 
-template <class T>
-constexpr SmallTwiddles<T> makeSmallTwiddles()
+template <class T, int Order>
+constexpr SmallPassTwiddles<T, Order> makeSmallPassTwiddles()
 {
-    SmallTwiddles<T> t{};
-    for (int k = 0; k < 32; ++k) {
-        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 32.0);
-        t.w[k] = {T(sc.c), T(sc.s)};
+    SmallPassTwiddles<T, Order> t{};
+    constexpr Qsp64s L = simd::Vec<T>::lanes;
+    Qsp64s at = 0;
+    for (Qsp64s cur = Qsp64s(1) << Order; cur >= 8; cur >>= 2) {
+        const Qsp64s m = cur >> 2, mp = (m + L - 1) / L * L;
+        // The float at flat position i of an array of pairs is part i % 2
+        // of element i / 2.
+        auto put = [&](Qsp64s base, Qsp64s i, T v) {
+            C<T>& e = t.w[base + i / 2];
+            (i % 2 ? e.im : e.re) = v;
+        };
+        for (int j = 1; j <= 3; ++j) {
+            const Qsp64s base = at + (j - 1) * mp;
+            for (Qsp64s p = 0; p < mp; ++p) {
+                // exp(-2 pi i j p / cur) = (cos, sin) of pi * (-2 j p / cur)
+                const mathfn::SinCosExt sc = p < m ? mathfn::sinCosPiExt(-2.0 * double(j * p) / double(cur))
+                                                   : mathfn::SinCosExt{0.0L, 1.0L};
+                put(base, (p / L) * 2 * L + p % L, T(sc.c));
+                put(base, (p / L) * 2 * L + p % L + L, T(sc.s));
+            }
+        }
+        at += 3 * mp;
     }
     return t;
 }
 
-template <class T>
-inline constexpr SmallTwiddles<T> kSmall = makeSmallTwiddles<T>();
+template <class T, int Order>
+inline constexpr SmallPassTwiddles<T, Order> kSmallPass = makeSmallPassTwiddles<T, Order>();
 
-// The straight-line kernel of one order (0..5): the same radix-4 passes on
-// scalars, unrolled by the compiler for the fixed length. Scale is applied
-// as the values are stored when Scaled.
-template <class T, bool Inv, int Order, bool Scaled>
-void ownsFftSmall(const C<T>* src, C<T>* dst, T scale)
+template <class T, bool Scaled>
+inline C<T> scaled(C<T> v, T f)
 {
-    constexpr int n = 1 << Order;
-    C<T> bufA[n], bufB[n];
-#pragma GCC unroll 32
-    for (int i = 0; i < n; ++i) bufA[i] = src[i];
-    C<T>* x = bufA;
-    C<T>* y = bufB;
-    int s = 1;
-#pragma GCC unroll 4
-    for (int cur = n; cur >= 4; cur >>= 2) {
-        const int m = cur >> 2;
-#pragma GCC unroll 8
-        for (int p = 0; p < m; ++p) {
-#pragma GCC unroll 8
-            for (int q = 0; q < s; ++q) {
-                const C<T> a = x[q + s * p], b = x[q + s * (p + m)], c = x[q + s * (p + 2 * m)],
-                           d = x[q + s * (p + 3 * m)];
-                const C<T> apc{a.re + c.re, a.im + c.im}, amc{a.re - c.re, a.im - c.im};
-                const C<T> bpd{b.re + d.re, b.im + d.im}, bmd{b.re - d.re, b.im - d.im};
-                // -i*(b-d) forward, +i*(b-d) inverse
-                const C<T> jbd = Inv ? C<T>{-bmd.im, bmd.re} : C<T>{bmd.im, -bmd.re};
-                const C<T> o[4] = {{apc.re + bpd.re, apc.im + bpd.im},
-                                   {amc.re + jbd.re, amc.im + jbd.im},
-                                   {apc.re - bpd.re, apc.im - bpd.im},
-                                   {amc.re - jbd.re, amc.im - jbd.im}};
-#pragma GCC unroll 4
-                for (int j = 0; j < 4; ++j) {
-                    C<T> v = o[j];
-                    if (j > 0 && p > 0) {
-                        const C<T> w = kSmall<T>.w[(j * p * (32 / cur)) & 31];
-                        const T wi = Inv ? -w.im : w.im;
-                        v = {o[j].re * w.re - o[j].im * wi, o[j].re * wi + o[j].im * w.re};
-                    }
-                    y[q + s * (4 * p + j)] = v;
-                }
-            }
+    if constexpr (Scaled)
+        return {v.re * f, v.im * f};
+    else
+        return v;
+}
+
+// -i*v forward, +i*v inverse.
+template <class T, bool Inv>
+inline C<T> rotQuarter(C<T> v)
+{
+    return Inv ? C<T>{-v.im, v.re} : C<T>{v.im, -v.re};
+}
+
+template <class T>
+inline C<T> cadd(C<T> a, C<T> b) { return {a.re + b.re, a.im + b.im}; }
+template <class T>
+inline C<T> csub(C<T> a, C<T> b) { return {a.re - b.re, a.im - b.im}; }
+
+template <class T, bool Inv, int Order, bool Scaled>
+void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
+{
+    if constexpr (Order == 0) {
+        dst[0] = scaled<T, Scaled>(src[0], f);
+    } else if constexpr (Order == 1) {
+        const C<T> a = src[0], b = src[1];
+        dst[0] = scaled<T, Scaled>(cadd(a, b), f);
+        dst[1] = scaled<T, Scaled>(csub(a, b), f);
+    } else if constexpr (Order == 2) {
+        const C<T> apc = cadd(src[0], src[2]), amc = csub(src[0], src[2]);
+        const C<T> bpd = cadd(src[1], src[3]), jbd = rotQuarter<T, Inv>(csub(src[1], src[3]));
+        dst[0] = scaled<T, Scaled>(cadd(apc, bpd), f);
+        dst[1] = scaled<T, Scaled>(cadd(amc, jbd), f);
+        dst[2] = scaled<T, Scaled>(csub(apc, bpd), f);
+        dst[3] = scaled<T, Scaled>(csub(amc, jbd), f);
+    } else if constexpr (Order == 3) {
+        // Two 4-point transforms (even and odd samples) and the 8-point
+        // twiddles (1 -+ i)/sqrt 2, -+i, (-1 -+ i)/sqrt 2.
+        constexpr T h = T(0.707106781186547524400844362104849039L);
+        C<T> e[4], o[4];
+        for (int par = 0; par < 2; ++par) {
+            const C<T> x0 = src[par], x1 = src[par + 2], x2 = src[par + 4], x3 = src[par + 6];
+            const C<T> apc = cadd(x0, x2), amc = csub(x0, x2), bpd = cadd(x1, x3);
+            const C<T> jbd = rotQuarter<T, Inv>(csub(x1, x3));
+            C<T>* r = par ? o : e;
+            r[0] = cadd(apc, bpd);
+            r[1] = cadd(amc, jbd);
+            r[2] = csub(apc, bpd);
+            r[3] = csub(amc, jbd);
         }
-        C<T>* t = x;
-        x = y;
-        y = t;
-        s <<= 2;
-    }
-    if constexpr ((Order & 1) != 0) {
-        constexpr int half = n >> 1;
-#pragma GCC unroll 16
-        for (int q = 0; q < half; ++q) {
-            const C<T> a = x[q], b = x[q + half];
-            y[q] = {a.re + b.re, a.im + b.im};
-            y[q + half] = {a.re - b.re, a.im - b.im};
+        const C<T> o1 = Inv ? C<T>{(o[1].re - o[1].im) * h, (o[1].re + o[1].im) * h}
+                            : C<T>{(o[1].re + o[1].im) * h, (o[1].im - o[1].re) * h};
+        const C<T> o2 = rotQuarter<T, Inv>(o[2]);
+        const C<T> o3 = Inv ? C<T>{(-o[3].re - o[3].im) * h, (o[3].re - o[3].im) * h}
+                            : C<T>{(o[3].im - o[3].re) * h, (-o[3].re - o[3].im) * h};
+        const C<T> t[4] = {o[0], o1, o2, o3};
+        for (int k = 0; k < 4; ++k) {
+            const C<T> ek = e[k];
+            dst[k] = scaled<T, Scaled>(cadd(ek, t[k]), f);
+            dst[k + 4] = scaled<T, Scaled>(csub(ek, t[k]), f);
         }
-        x = y;
-    }
-#pragma GCC unroll 32
-    for (int i = 0; i < n; ++i) {
+    } else {
+        // The radix-4 passes with a second buffer on the stack.
+        constexpr Qsp64s n = Qsp64s(1) << Order;
+        alignas(16) C<T> buf[n];
+        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(buf, n), Order,
+                              kSmallPass<T, Order>.w);
         if constexpr (Scaled)
-            dst[i] = {x[i].re * scale, x[i].im * scale};
-        else
-            dst[i] = x[i];
+            for (Qsp64s i = 0; i < n; ++i) dst[i] = scaled<T, true>(dst[i], f);
     }
 }
 
