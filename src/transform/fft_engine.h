@@ -21,7 +21,7 @@
 //   y[q + s*(4p+1)] = ((a-c) -+ i(b-d)) w^p
 //   y[q + s*(4p+2)] = ((a+c) - (b+d)) w^2p
 //   y[q + s*(4p+3)] = ((a-c) +- i(b-d)) w^3p,     w = exp(-+2*pi*i/n)
-// and then n /= 4, s *= 4. When log2 N is odd a last radix-2 pass follows.
+// and then n /= 4, s *= 4. When log2 N is odd the last pass is radix-8.
 //
 // Buffers are passed as two halves (lo holds elements 0..N/2-1, hi the
 // rest), so the two arrays of a split-complex destination can serve as one
@@ -181,8 +181,9 @@ inline Qsp64s passTwiddleCount(Qsp64s n)
     return count;
 }
 
-// Number of passes of an n-point transform (n >= 4).
-inline int passCount(int order) { return (order + 1) >> 1; }
+// Number of passes of an n-point transform (n >= 8): radix-4 levels, the
+// last one radix-8 when the order is odd.
+inline int passCount(int order) { return order >> 1; }
 
 // Fills the pass twiddles of an n-point transform, n = 2^order, from an
 // octant of length 2^octOrder >= n, block-split.
@@ -291,16 +292,46 @@ void ownsPass4Last(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s ntot)
     }
 }
 
-// Last radix-2 pass (n = 2), ntot/2 >= L.
-template <class T, bool InI, bool OutI>
-void ownsPass2Last(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s ntot)
+// Last radix-8 pass (n = 8, no outer twiddles), ntot/8 >= L: a radix-2
+// step with the eighth-turn twiddles, then two 4-point butterflies.
+template <class T, bool Inv, bool InI, bool OutI>
+void ownsPass8Last(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s ntot)
 {
     using K = SV<T>;
-    const Qsp64s half = ntot >> 1;
-    for (Qsp64s q = 0; q < half; q += K::L) {
-        const auto a = K::template load<InI>(x.lo + q), b = K::template load<InI>(x.hi + q);
-        K::template store<OutI>(y.lo + q, K::add(a, b));
-        K::template store<OutI>(y.hi + q, K::sub(a, b));
+    using V = typename K::V;
+    using X = typename K::X;
+    const Qsp64s s = ntot >> 3;
+    const auto h = V::splat(T(0.707106781186547524400844362104849039L));
+    for (Qsp64s q = 0; q < s; q += K::L) {
+        X a[4], b[4];
+        for (int j = 0; j < 4; ++j) {
+            const X u = K::template load<InI>(x.lo + j * s + q), w = K::template load<InI>(x.hi + j * s + q);
+            a[j] = K::add(u, w);
+            b[j] = K::sub(u, w);
+        }
+        // b[j] *= exp(-+ i pi j / 4)
+        const X d1 = b[1], d3 = b[3];
+        if constexpr (Inv) {
+            b[1] = {V::mul(V::sub(d1.re, d1.im), h), V::mul(V::add(d1.re, d1.im), h)};
+            b[2] = {V::sub(V::zero(), b[2].im), b[2].re};
+            b[3] = {V::mul(V::sub(V::zero(), V::add(d3.re, d3.im)), h), V::mul(V::sub(d3.re, d3.im), h)};
+        } else {
+            b[1] = {V::mul(V::add(d1.re, d1.im), h), V::mul(V::sub(d1.im, d1.re), h)};
+            b[2] = {b[2].im, V::sub(V::zero(), b[2].re)};
+            b[3] = {V::mul(V::sub(d3.im, d3.re), h), V::mul(V::sub(V::zero(), V::add(d3.re, d3.im)), h)};
+        }
+        X e[4], o[4];
+        butterfly4<T, Inv>(a[0], a[1], a[2], a[3], e);
+        butterfly4<T, Inv>(b[0], b[1], b[2], b[3], o);
+        // X[2k] = e[k], X[2k+1] = o[k]; outputs k < 4 in the low half.
+        K::template store<OutI>(y.lo + q, e[0]);
+        K::template store<OutI>(y.lo + s + q, o[0]);
+        K::template store<OutI>(y.lo + 2 * s + q, e[1]);
+        K::template store<OutI>(y.lo + 3 * s + q, o[1]);
+        K::template store<OutI>(y.hi + q, e[2]);
+        K::template store<OutI>(y.hi + s + q, o[2]);
+        K::template store<OutI>(y.hi + 2 * s + q, e[3]);
+        K::template store<OutI>(y.hi + 3 * s + q, o[3]);
     }
 }
 
@@ -337,19 +368,18 @@ void ownsRunPasses(Halves<const C<T>> x, Halves<C<T>> a, Halves<C<T>> b, int ord
     Halves<C<T>> out = (passes & 1) ? a : b;
     Qsp64s cur = n, s = s0;
     for (int i = 0; i < passes; ++i) {
-        const bool first = i == 0;
-        if (cur == 2) {
-            ownsPass2Last<T, false, true>(in, out, ntot);
+        if (cur == 8) {
+            ownsPass8Last<T, Inv, false, true>(in, out, ntot);
         } else if (cur == 4) {
             ownsPass4Last<T, Inv, false, true>(in, out, ntot);
         } else if (s == 1) {
             ownsPass4First<T, Inv, true>(in, out, ntot, tw);
-        } else if (first) {
+        } else if (i == 0) {
             ownsPass4<T, Inv, true, false>(in, out, ntot, cur, s, tw);
         } else {
             ownsPass4<T, Inv, false, false>(in, out, ntot, cur, s, tw);
         }
-        if (cur >= 8) tw += 3 * passArray<T>(cur >> 2);
+        tw += 3 * passArray<T>(cur >> 2);
         cur >>= 2;
         s <<= 2;
         in = asConst(out);
