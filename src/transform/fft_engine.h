@@ -185,23 +185,32 @@ inline Qsp64s passTwiddleCount(Qsp64s n)
 // last one radix-8 when the order is odd.
 inline int passCount(int order) { return order >> 1; }
 
+// Rewrites an array of count pairs (count a multiple of L) from
+// interleaved to block-split order, in place.
+template <class T>
+void ownsToBlockSplit(C<T>* a, Qsp64s count)
+{
+    using K = SV<T>;
+    for (Qsp64s i = 0; i < count; i += K::L) K::template store<false>(a + i, K::template load<true>(a + i));
+}
+
 // Fills the pass twiddles of an n-point transform, n = 2^order, from an
-// octant of length 2^octOrder >= n, block-split.
+// octant of length 2^octOrder >= n, block-split; padding entries are 1.
 template <class T, class O>
 void ownsFillPassTwiddles(C<T>* tw, int order, const Octant<O>& oct)
 {
-    constexpr Qsp64s L = SV<T>::L;
     const Qsp64s n = Qsp64s(1) << order;
     for (Qsp64s cur = n; cur >= 8; cur >>= 2) {
         const Qsp64s m = cur >> 2, mp = passArray<T>(m);
         const Qsp64s step = (Qsp64s(1) << oct.order) / cur;
         for (int j = 1; j <= 3; ++j) {
-            T* f = &tw[(j - 1) * mp].re;
-            for (Qsp64s p = 0; p < mp; ++p) {
-                const C<O> w = p < m ? twiddle(oct, j * p * step) : C<O>{O(1), O(0)};
-                f[(p / L) * 2 * L + p % L] = T(w.re);
-                f[(p / L) * 2 * L + p % L + L] = T(w.im);
-            }
+            C<T>* a = tw + (j - 1) * mp;
+            if (oct.order >= 3)
+                ownsFillTwiddleRun<T>(a, m, 0, j * step, oct);
+            else
+                for (Qsp64s p = 0; p < m; ++p) a[p] = {T(twiddle(oct, j * p * step).re), T(twiddle(oct, j * p * step).im)};
+            for (Qsp64s p = m; p < mp; ++p) a[p] = {T(1), T(0)};
+            ownsToBlockSplit<T>(a, mp);
         }
         tw += 3 * mp;
     }
@@ -540,17 +549,22 @@ inline int largeRowOrder(int order) { return order < 20 ? 4 : 8; }
 // Columns combined per batch in the large algorithm.
 constexpr int kLargeBatch = 8;
 
-// Twiddle and scratch counts of the large algorithm.
+// Twiddle and scratch counts of the large algorithm. The column twiddles
+// W_N^(b k), b < B, k < M, are kept as two factors for the batches of
+// kLargeBatch columns: W_N^(b k0) for every batch start k0 (N / kLargeBatch
+// values, row by row) and W_N^(b kk) for kk < kLargeBatch.
 template <class T>
 inline Qsp64s largeTwiddleCount(int order)
 {
     const int n1 = largeRowOrder(order), n2 = order - n1;
-    return passTwiddleCount<T>(Qsp64s(1) << n2) + passTwiddleCount<T>(Qsp64s(1) << n1) + (Qsp64s(1) << order);
+    return passTwiddleCount<T>(Qsp64s(1) << n2) + passTwiddleCount<T>(Qsp64s(1) << n1) +
+           (Qsp64s(1) << order) / kLargeBatch + (Qsp64s(kLargeBatch) << n1);
 }
 inline Qsp64s largeScratchCount(int order) { return 2 * (Qsp64s(kLargeBatch) << largeRowOrder(order)); }
 
 // Fills the tables of the large algorithm: the row passes, the column
-// passes and the grid W_N^(b*k), b < B, k < M, row by row.
+// passes, the batch-start factors (batch by batch, row by row) and the
+// within-batch factors (row by row).
 template <class T, class O>
 void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
 {
@@ -560,12 +574,11 @@ void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
     ownsFillPassTwiddles<T>(tw, n1, oct);
     tw += passTwiddleCount<T>(Qsp64s(1) << n1);
     const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, step = Qsp64s(1) << (oct.order - order);
-    for (Qsp64s b = 0; b < rows; ++b) {
-        for (Qsp64s k = 0; k < cols; ++k) {
-            const C<O> w = twiddle(oct, b * k * step);
-            tw[b * cols + k] = {T(w.re), T(w.im)};
-        }
-    }
+    const Qsp64s batches = cols / kLargeBatch;
+    // start[b][t] = W^(b t kLargeBatch), t < M / kLargeBatch: one run per row.
+    for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * batches, batches, 0, b * kLargeBatch * step, oct);
+    tw += batches * rows;
+    for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * kLargeBatch, kLargeBatch, 0, b * step, oct);
 }
 
 // Element i of an N-value buffer held in halves (half = N/2).
@@ -602,7 +615,8 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, half = (Qsp64s(1) << order) >> 1;
     const C<T>* rowTw = tw;
     const C<T>* colTw = rowTw + passTwiddleCount<T>(cols);
-    const C<T>* grid = colTw + passTwiddleCount<T>(rows);
+    const C<T>* starts = colTw + passTwiddleCount<T>(rows);
+    const C<T>* within = starts + (cols / kLargeBatch) * rows;
     C<T>* scratchA = work + (Qsp64s(1) << order);
     C<T>* scratchB = scratchA + (Qsp64s(kLargeBatch) << n1);
 
@@ -628,12 +642,15 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     const Qsp64s batchN = Qsp64s(kLargeBatch) << n1;
     const auto f = V::splat(scale);
     for (Qsp64s k0 = 0; k0 < cols; k0 += kLargeBatch) {
+        const C<T>* start = starts + k0 / kLargeBatch;
+        const Qsp64s batches = cols / kLargeBatch;
         for (Qsp64s b = 0; b < rows; ++b) {
             const C<T>* from = rowsInScratch ? at(rowScratch, b * cols + k0, half) : work + b * cols + k0;
-            const C<T>* g = grid + b * cols + k0;
+            const C<T>* g = within + b * kLargeBatch;
+            const auto w0 = K::splat(start + b * batches);
             C<T>* to = scratchA + b * kLargeBatch;
             for (int kk = 0; kk < kLargeBatch; kk += K::per)
-                K::store(to + kk, K::template mul<Inv>(K::load(from + kk), K::load(g + kk)));
+                K::store(to + kk, K::template mul<Inv>(K::load(from + kk), K::template mul<false>(K::load(g + kk), w0)));
         }
         // n1 (4 or 8) gives an even number of passes: the first writes
         // scratchB, the last scratchA.
