@@ -291,6 +291,20 @@ QspStatus qspsAdd_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
  * (split parts) 0..28; R_32f 0..29; C_64fc, C_64f 0..27; R_64f 0..28; other
  * orders give qspStsBadFftOrder. Every size includes 64 bytes of slack per
  * non-empty block, so the blocks need no alignment.
+ * Checks: order 31 or above, then the three pointers, then the flag, then the
+ * kind's maximum order (C_16fc: the pointers, then orders above 30, then as
+ * C_32fc). Complex single precision: orders 0..5 need 208 bytes of record and
+ * no buffers; orders 6..17 a record of r64(8N+71) + r64(N+67) + 256 bytes, a
+ * work buffer of r64(8N+63) + 64 and, from order 11, an Init buffer of
+ * r64(N+67) + 64 (r64(x) = x rounded down to a multiple of 64); from order 18
+ * the blocked layout (record (4 << (order-12)) + 4160 bytes larger from order
+ * 19, work at least 65536 + 64). Split kinds report what the interleaved kinds
+ * do; C_16fc adds 8N to the work buffer (a single-precision copy of the data)
+ * and 20 to the record. Complex double precision: r64(16N+79) + r64(N+67) +
+ * 256, work r64(16N+63) + 64, Init buffer r64(2N+71) + 64, blocked from order
+ * 17. R_32f: the complex sizes of order-1 plus two recombination tables. Sizes
+ * are formed in 64 bits and stored as int: the C_32fc record and work sizes of
+ * order 28 exceed the int range and wrap as 32-bit arithmetic does. Thread-safe.
  */
 QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 QspStatus qspsFFTGetSize_C_32fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
@@ -310,6 +324,17 @@ QspStatus qspsFFTGetSize_R_64f(int order, int flag, QspHintAlgorithm hint, int* 
  * qspStsBadRecord). Init of C_16fc switches the processor to flush-to-zero and
  * denormals-are-zero and leaves them so. Records are read-only afterwards and
  * may be shared by threads; there is no release call.
+ * Checks: null ppFFTSpec, order above the kind's maximum (unsigned, so negative
+ * orders fail too), null pSpec, all before anything is written; then the
+ * record header is cleared, the flag decoded (a bad flag leaves identifier 0)
+ * and, from order 11, a null pSpecBuffer gives qspStsNullPtr (identifier 0).
+ * The normalisation factor is 1.0f/(float)N and (float)(1.0/sqrt(N)) in single
+ * precision, 1.0/N and 1.0/sqrt(N) in double. Twiddles are cos and sin of
+ * 2 pi j / N from the library's own sine and cosine, taken from one octant by
+ * exact symmetry (correctly rounded values, never built by repeated
+ * multiplication); orders up to 10 read a built-in table, larger ones build
+ * the octant in pSpecBuffer. Nothing is allocated and the record never points
+ * outside pSpec.
  */
 QspStatus qspsFFTInit_C_16fc(QspsFFTSpec_C_16fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
 QspStatus qspsFFTInit_C_32fc(QspsFFTSpec_C_32fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
@@ -329,6 +354,21 @@ QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, 
  * flag says. _I forms transform in place (for RToCCS the array holds N+2
  * values). Checks: null record, then the record's kind (qspStsBadRecord), then
  * the data pointers, then a null pBuffer while the record needs one.
+ * pBuffer may be null whenever the record's work size is 0 (complex orders
+ * 0..5, real orders 0..6, and C_16fc up to order 5, whose data copy then fits
+ * on the stack); a buffer given where none is needed is not touched. Source
+ * and destination may be the same array (that is what the _I forms do); any
+ * other overlap is not allowed. In-place and out-of-place results are
+ * bit-identical. Packed layouts for N values, X[k] = R_k + i I_k:
+ *   Pack  R0, R1, I1, ..., R(N/2-1), I(N/2-1), R(N/2)
+ *   Perm  R0, R(N/2), R1, I1, ..., R(N/2-1), I(N/2-1)
+ *   CCS   R0, 0, R1, I1, ..., R(N/2-1), I(N/2-1), R(N/2), 0   (N+2 values)
+ * N = 1: R0 (CCS: R0, 0); N = 2: Pack and Perm are R0, R1. Accuracy against
+ * the exact transform: relative RMS error below 2e-7 sqrt(log2 N) in single
+ * and 4e-16 sqrt(log2 N) in double precision. C_16fc converts to single
+ * precision in the work buffer, transforms there and rounds back to half
+ * precision (ties to even). A record and its tables are only read, so several
+ * threads may use one record at once with a work buffer each.
  */
 QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
@@ -358,6 +398,9 @@ QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFT
  * of FFTFwd up to the normalisation the record's flag chooses (flag 2 divides
  * the inverse by N, 4 by sqrt(N)). PackToR, PermToR, CCSToR read a packed half
  * spectrum and write N real values. Arguments and checks as in FFTFwd.
+ * The inverse real transforms read the packed values and ignore the stored
+ * zeros of CCS (its elements 1 and N+1); the _I forms of CCSToR need N+2
+ * values in the array. Buffers, aliasing, accuracy and threads as in FFTFwd.
  */
 QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
@@ -386,6 +429,10 @@ QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFT
  * Multiplies two half spectra in Pack layout bin by bin: pSrcDst = pSrc *
  * pSrcDst, where element 0 (and, for even len, element len-1) are real and the
  * pairs in between complex. len is the packed length (N values).
+ * Odd len: element 0 real, then (len-1)/2 pairs. Each product is formed in the
+ * element type ((a_r b_r - a_i b_i), (a_r b_i + a_i b_r)). Checks: pointers,
+ * then len < 1 (qspStsBadSize); nothing is written on error. pSrc must not
+ * overlap pSrcDst. Thread-safe.
  */
 QspStatus qspsMulPack_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
 QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
@@ -394,6 +441,8 @@ QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
 /*
  * As MulPack, with the in-place operand conjugated: pSrcDst = pSrc *
  * conj(pSrcDst), bin by bin, in Pack layout.
+ * A pair becomes a_r b_r + a_i b_i + i (a_i b_r - a_r b_i), a = pSrc,
+ * b = pSrcDst. Checks, aliasing and threads as in MulPack.
  */
 QspStatus qspsMulPackConj_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
 QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
@@ -403,6 +452,9 @@ QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
  * Multiplies two half spectra in Perm layout bin by bin: pDst = pSrc1 * pSrc2,
  * or in place pSrcDst = pSrc * pSrcDst. Element 0 and, for even len, element 1
  * are real; the complex pairs follow. len is the packed length (N values).
+ * Odd len is laid out as Pack (element 0 real, pairs from element 1), so
+ * MulPerm and MulPack agree there. pDst may be pSrc1 or pSrc2 (the _I form is
+ * the out-of-place one with pDst = pSrc2). Checks as in MulPack. Thread-safe.
  */
 QspStatus qspsMulPerm_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
 QspStatus qspsMulPerm_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
@@ -416,6 +468,8 @@ QspStatus qspsMulPerm_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
  * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
  * values from the start of pSrcDst and writes the len complex values over them
  * (the array holds len complex values).
+ * Even len: X[0] = (R0, 0), X[len/2] = (R(len/2), 0) from element 1; odd len
+ * as Pack. Checks: pointers, then len < 1. Thread-safe.
  */
 QspStatus qspsConjPerm_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjPerm_32fc_I(Qsp32fc* pSrcDst, int len);
@@ -430,6 +484,9 @@ QspStatus qspsConjPerm_64fc_I(Qsp64fc* pSrcDst, int len);
  * values from the start of pSrcDst and writes the len complex values over them
  * (the array holds len complex values). _L forms take a 64-bit length
  * and run in one pass.
+ * The _L forms check the 64-bit length before the pointers; a packed value
+ * is read before its place in the output is written, so the in-place forms
+ * need no extra room. Thread-safe.
  */
 QspStatus qspsConjPack_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjPack_32fc_I(Qsp32fc* pSrcDst, int len);
@@ -448,6 +505,9 @@ QspStatus qspsConjPack_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
  * values from the start of pSrcDst and writes the len complex values over them
  * (the array holds len complex values). _L forms take a 64-bit length
  * and run in one pass.
+ * CCS holds len/2 + 1 complex bins (len + 2 values for even len, len + 1 for
+ * odd); the stored values of bin 0 (and bin len/2) are copied as they are.
+ * The _L forms check the 64-bit length before the pointers. Thread-safe.
  */
 QspStatus qspsConjCcs_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjCcs_32fc_I(Qsp32fc* pSrcDst, int len);
