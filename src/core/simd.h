@@ -13,7 +13,6 @@
 // Arithmetic members are added beside these as kernels need them.
 #pragma once
 #include <nmmintrin.h>
-#include <pmmintrin.h>
 
 #include "qspdefs.h"
 
@@ -128,19 +127,22 @@ struct Vec<float> {
     static Reg swapParts(Reg a) { return _mm_shuffle_ps(a, a, _MM_SHUFFLE(2, 3, 0, 1)); }
     static Reg addsub(Reg a, Reg b) { return _mm_addsub_ps(a, b); }
     static Reg signBit() { return _mm_castsi128_ps(_mm_set1_epi32(int(0x80000000u))); }
-    // One (re, im) pair: repeated in both halves, or alone in the low half
-    // (the pointer need not be aligned); stores of either half.
+    // Halves of two registers of complex pairs, and single pairs.
+    static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
+    static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
+    // One 8-byte pair repeated in both halves (p need not be aligned).
     static Reg loadPairDup(const float* p)
     {
         return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)));
     }
-    static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
-    static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
-    static Reg loadPair(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
-    static void storePair(float* p, Reg r) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
-    static void storeHighPair(float* p, Reg r) { _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
     static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
     static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
+    // Split and join of complex pairs: evens/odds take the real/imaginary
+    // parts of a0 a1 b0 b1 (as pairs); zipLo/zipHi interleave two registers.
+    static Reg evens(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
+    static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
 };
 
 template <>
@@ -177,10 +179,14 @@ struct Vec<double> {
     static Reg swapParts(Reg a) { return _mm_shuffle_pd(a, a, 1); }
     static Reg addsub(Reg a, Reg b) { return _mm_addsub_pd(a, b); }
     static Reg signBit() { return _mm_castsi128_pd(_mm_set1_epi64x(0x8000000000000000ll)); }
-    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); } // a0, b0
+    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }  // a0, b0
     static Reg highHalves(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); } // a1, b1
     static Reg negOdd(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(0.0, -0.0)); }
     static Reg negEven(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(-0.0, 0.0)); }
+    static Reg evens(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg odds(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
 };
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit
