@@ -233,6 +233,161 @@ QspStatus qspsCopyBE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int ds
  */
 QspStatus qspsMulC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
 
+/* Max --------------------------------------------------------------------- */
+/*
+ * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it
+ * compares greater, so NaN elements follow that rule lane by lane). _L forms
+ * take a 64-bit length.
+ */
+QspStatus qspsMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax);
+QspStatus qspsMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax);
+QspStatus qspsMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax);
+QspStatus qspsMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax);
+QspStatus qspsMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax);
+QspStatus qspsMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax);
+
+/* Min --------------------------------------------------------------------- */
+/*
+ * Smallest element: *pMin = min pSrc[i], the mirror of Max.
+ */
+QspStatus qspsMin_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin);
+QspStatus qspsMin_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin);
+QspStatus qspsMin_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin);
+QspStatus qspsMin_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin);
+QspStatus qspsMin_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin);
+QspStatus qspsMin_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin);
+
+/* MaxIndx ----------------------------------------------------------------- */
+/*
+ * Largest element and the lowest index holding it (ordered comparisons: a NaN
+ * never replaces the best, a NaN at index 0 stays). pIndx may be null; the
+ * call is then Max. _L forms take a 64-bit length and give a 64-bit index.
+ */
+QspStatus qspsMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax, Qsp64s* pIndx);
+QspStatus qspsMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax, Qsp64s* pIndx);
+
+/* MinIndx ----------------------------------------------------------------- */
+/*
+ * Smallest element and the lowest index holding it; the mirror of MaxIndx.
+ */
+QspStatus qspsMinIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pIndx);
+QspStatus qspsMinIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pIndx);
+
+/* MinMax ------------------------------------------------------------------ */
+/*
+ * Smallest and largest element in one pass: *pMin, *pMax.
+ */
+QspStatus qspsMinMax_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, Qsp8u* pMax);
+QspStatus qspsMinMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, Qsp16s* pMax);
+QspStatus qspsMinMax_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, Qsp16u* pMax);
+QspStatus qspsMinMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, Qsp32s* pMax);
+QspStatus qspsMinMax_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, Qsp32u* pMax);
+QspStatus qspsMinMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, Qsp64f* pMax);
+QspStatus qspsMinMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64f* pMax);
+
+/* MinMaxIndx -------------------------------------------------------------- */
+/*
+ * Smallest and largest element with the lowest index of each (an extreme that
+ * is a NaN reports index 0). All four outputs are required.
+ */
+QspStatus qspsMinMaxIndx_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, int* pMinIndx, Qsp8u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pMinIndx, Qsp16s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, int* pMinIndx, Qsp16u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pMinIndx, Qsp32f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pMinIndx, Qsp32f* pMax, Qsp64s* pMaxIndx);
+QspStatus qspsMinMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pMinIndx, Qsp32s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, int* pMinIndx, Qsp32u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pMinIndx, Qsp64f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pMinIndx, Qsp64f* pMax, Qsp64s* pMaxIndx);
+
+/* MaxAbs ------------------------------------------------------------------ */
+/*
+ * Largest magnitude: *pMaxAbs = max |pSrc[i]|. For 16s the magnitude is taken
+ * unsigned, so -32768 is the largest; its value saturates to 32767.
+ */
+QspStatus qspsMaxAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs);
+QspStatus qspsMaxAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs);
+QspStatus qspsMaxAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs);
+QspStatus qspsMaxAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs);
+
+/* MinAbs ------------------------------------------------------------------ */
+/*
+ * Smallest magnitude: *pMinAbs = min |pSrc[i]|.
+ */
+QspStatus qspsMinAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs);
+QspStatus qspsMinAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs);
+QspStatus qspsMinAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs);
+QspStatus qspsMinAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs);
+
+/* MaxAbsIndx -------------------------------------------------------------- */
+/*
+ * Largest magnitude and the lowest index holding it (16s: -32768 is the
+ * largest magnitude). pIndx may be null.
+ */
+QspStatus qspsMaxAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs, Qsp64s* pIndx);
+QspStatus qspsMaxAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs, Qsp64s* pIndx);
+
+/* MinAbsIndx -------------------------------------------------------------- */
+/*
+ * Smallest magnitude and the lowest index holding it. pIndx may be null.
+ */
+QspStatus qspsMinAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs, Qsp64s* pIndx);
+QspStatus qspsMinAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs, Qsp64s* pIndx);
+
+/* MaxEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise maximum of two vectors: pDst[i] = the larger of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMaxEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMaxEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMaxEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMaxEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMaxEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMaxEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MinEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise minimum of two vectors: pDst[i] = the smaller of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMinEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMinEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMinEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMinEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMinEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMinEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMinEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMinEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMinEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMinEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
 /* SortRadix --------------------------------------------------------------- */
 /*
  * In-place radix sorts, ascending or descending, with a work buffer of

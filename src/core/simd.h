@@ -10,7 +10,17 @@
 //   stream                     aligned non-temporal store
 //   zero(), splat(x)           constant registers
 //   reverse(r)                 lanes in reverse order
-// Arithmetic members are added beside these as kernels need them.
+// Arithmetic members are added beside these as kernels need them:
+//   max(a, b), min(a, b)       lane-wise; for floating types exactly
+//                              (a > b ? a : b) and (a < b ? a : b), so the
+//                              second operand comes out when the lanes are
+//                              unordered (a NaN on either side)
+//   eq(a, b)                   all ones in the lanes that compare equal
+//                              (floating: ordered, so -0 == +0, NaN != NaN)
+//   laneMask(r)                one bit per lane, from the top bit of each
+//                              lane of a comparison result
+//   abs(r)                     magnitudes (signed integers: as unsigned, so
+//                              the most negative value keeps its pattern)
 #pragma once
 #include <nmmintrin.h>
 
@@ -47,6 +57,10 @@ struct Vec<Qsp8u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
     }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu8(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu8(a, b); }
+    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_epi8(a, b); }
+    static int laneMask(Reg r) { return _mm_movemask_epi8(r); }
 };
 
 template <>
@@ -57,6 +71,18 @@ struct Vec<Qsp16u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1));
     }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu16(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu16(a, b); }
+    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
+    static int laneMask(Reg r) { return _mm_movemask_epi8(_mm_packs_epi16(r, _mm_setzero_si128())); }
+};
+
+template <>
+struct Vec<Qsp16s> : Vec<Qsp16u> {
+    static Reg splat(Qsp16s x) { return _mm_set1_epi16(x); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi16(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi16(a, b); }
+    static Reg abs(Reg r) { return _mm_abs_epi16(r); }
 };
 
 template <>
@@ -64,6 +90,18 @@ struct Vec<Qsp32u> : IntRegOps {
     static constexpr int lanes = 4;
     static Reg splat(Qsp32u x) { return _mm_set1_epi32(static_cast<int>(x)); }
     static Reg reverse(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(0, 1, 2, 3)); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu32(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu32(a, b); }
+    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
+    static int laneMask(Reg r) { return _mm_movemask_ps(_mm_castsi128_ps(r)); }
+};
+
+template <>
+struct Vec<Qsp32s> : Vec<Qsp32u> {
+    static Reg splat(Qsp32s x) { return _mm_set1_epi32(x); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi32(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi32(a, b); }
+    static Reg abs(Reg r) { return _mm_abs_epi32(r); }
 };
 
 template <>
@@ -89,6 +127,11 @@ struct Vec<float> {
     static Reg sub(Reg a, Reg b) { return _mm_sub_ps(a, b); }
     static Reg mul(Reg a, Reg b) { return _mm_mul_ps(a, b); }
     static Reg div(Reg a, Reg b) { return _mm_div_ps(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_ps(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_ps(a, b); }
+    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_ps(a, b); }
+    static int laneMask(Reg r) { return _mm_movemask_ps(r); }
+    static Reg abs(Reg r) { return _mm_and_ps(r, _mm_castsi128_ps(_mm_set1_epi32(0x7FFFFFFF))); }
 };
 
 template <>
@@ -107,6 +150,11 @@ struct Vec<double> {
     static Reg sub(Reg a, Reg b) { return _mm_sub_pd(a, b); }
     static Reg mul(Reg a, Reg b) { return _mm_mul_pd(a, b); }
     static Reg div(Reg a, Reg b) { return _mm_div_pd(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_pd(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_pd(a, b); }
+    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_pd(a, b); }
+    static int laneMask(Reg r) { return _mm_movemask_pd(r); }
+    static Reg abs(Reg r) { return _mm_and_pd(r, _mm_castsi128_pd(_mm_set1_epi64x(0x7FFFFFFFFFFFFFFFll))); }
 };
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit
