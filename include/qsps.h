@@ -233,6 +233,231 @@ QspStatus qspsCopyBE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int ds
  */
 QspStatus qspsMulC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
 
+/* Add --------------------------------------------------------------------- */
+/*
+ * Element-wise sum: pDst[i] = pSrc1[i] + pSrc2[i]; in place pSrcDst[i] += pSrc[i].
+ * Integer forms without Sfs saturate to the destination type; Sfs/ISfs forms
+ * scale the exact sum by 2^-scaleFactor, round to nearest even and saturate
+ * (complex: each part alone). Mixed codes name the sources first and the
+ * destination last (8u16u: 8u sources, 16u sum). Floating sums are IEEE sums.
+ * _L forms take a 64-bit length, check it first and work in chunks of
+ * floor((2^31-1)/element size) elements.
+ */
+QspStatus qspsAdd_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsAdd_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsAdd_32u(const Qsp32u* pSrc1, const Qsp32u* pSrc2, Qsp32u* pDst, int len);
+QspStatus qspsAdd_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsAdd_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsAdd_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsAdd_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+QspStatus qspsAdd_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsAdd_32fc_I(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsAdd_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int len);
+QspStatus qspsAdd_64fc_I(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, int len);
+QspStatus qspsAdd_8u16u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsAdd_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsAdd_16s32s(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32s* pDst, int len);
+QspStatus qspsAdd_16s32s_I(const Qsp16s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsAdd_32f64f_I(const Qsp32f* pSrc, Qsp64f* pSrcDst, int len);
+QspStatus qspsAdd_8u_Sfs(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsAdd_8u_ISfs(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAdd_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsAdd_16s_ISfs(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAdd_16u_Sfs(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsAdd_16u_ISfs(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAdd_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsAdd_32s_ISfs(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAdd_16sc_Sfs(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsAdd_16sc_ISfs(const Qsp16sc* pSrc, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAdd_32sc_Sfs(const Qsp32sc* pSrc1, const Qsp32sc* pSrc2, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsAdd_32sc_ISfs(const Qsp32sc* pSrc, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAdd_32f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsAdd_32f_I_L(const Qsp32f* pSrc, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsAdd_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsAdd_64f_I_L(const Qsp64f* pSrc, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsAdd_32fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsAdd_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsAdd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsAdd_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
+
+/* FFTGetSize -------------------------------------------------------------- */
+/*
+ * Sizes, in bytes, that a power-of-two FFT of length N = 2^order needs:
+ * *pSpecSize for the record block, *pSpecBufferSize for the buffer used only
+ * during Init, *pBufferSize for the work buffer of every transform call (0: no
+ * buffer needed). flag is the normalisation: 1 forward divided by N, 2 inverse
+ * divided by N, 4 both divided by sqrt(N), 8 none; any other value gives
+ * qspStsBadFftFlag. hint is not checked. Kinds and orders: C_16fc, C_32fc, C_32f
+ * (split parts) 0..28; R_32f 0..29; C_64fc, C_64f 0..27; R_64f 0..28; other
+ * orders give qspStsBadFftOrder. Every size includes 64 bytes of slack per
+ * non-empty block, so the blocks need no alignment.
+ */
+QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_32fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_32f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_R_32f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_64fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_64f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_R_64f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+
+/* FFTInit ----------------------------------------------------------------- */
+/*
+ * Builds an FFT record of the kind in the name inside the caller's block pSpec
+ * (at least *pSpecSize bytes, any alignment): the record starts at the next
+ * 64-byte boundary, whose address is stored in *ppFFTSpec. pSpecBuffer (the
+ * Init buffer) may be null when its size is 0. order, flag and hint as in
+ * FFTGetSize. A rejected flag leaves the record unusable (transforms give
+ * qspStsBadRecord). Init of C_16fc switches the processor to flush-to-zero and
+ * denormals-are-zero and leaves them so. Records are read-only afterwards and
+ * may be shared by threads; there is no release call.
+ */
+QspStatus qspsFFTInit_C_16fc(QspsFFTSpec_C_16fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_32fc(QspsFFTSpec_C_32fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_32f(QspsFFTSpec_C_32f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_R_32f(QspsFFTSpec_R_32f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_64fc(QspsFFTSpec_C_64fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_64f(QspsFFTSpec_C_64f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+
+/* FFTFwd ------------------------------------------------------------------ */
+/*
+ * Forward FFT, X[k] = sum over m of x[m] e^(-2 pi i k m / N), N = 2^order of
+ * the record. CToC: complex to complex (interleaved, or split into pSrcRe/
+ * pSrcIm and pDstRe/pDstIm for 32f and 64f). RToPack, RToPerm, RToCCS: real
+ * signal of N values to its half spectrum in the packed layout named (Pack and
+ * Perm hold N values, CCS N+2). Divided by N or sqrt(N) only as the record's
+ * flag says. _I forms transform in place (for RToCCS the array holds N+2
+ * values). Checks: null record, then the record's kind (qspStsBadRecord), then
+ * the data pointers, then a null pBuffer while the record needs one.
+ */
+QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32f_I(Qsp32f* pSrcDstRe, Qsp32f* pSrcDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64f_I(Qsp64f* pSrcDstRe, Qsp64f* pSrcDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+
+/* FFTInv ------------------------------------------------------------------ */
+/*
+ * Inverse FFT, x[m] = sum over k of X[k] e^(+2 pi i k m / N), the exact inverse
+ * of FFTFwd up to the normalisation the record's flag chooses (flag 2 divides
+ * the inverse by N, 4 by sqrt(N)). PackToR, PermToR, CCSToR read a packed half
+ * spectrum and write N real values. Arguments and checks as in FFTFwd.
+ */
+QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32f_I(Qsp32f* pSrcDstRe, Qsp32f* pSrcDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64f_I(Qsp64f* pSrcDstRe, Qsp64f* pSrcDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+
+/* MulPack ----------------------------------------------------------------- */
+/*
+ * Multiplies two half spectra in Pack layout bin by bin: pSrcDst = pSrc *
+ * pSrcDst, where element 0 (and, for even len, element len-1) are real and the
+ * pairs in between complex. len is the packed length (N values).
+ */
+QspStatus qspsMulPack_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MulPackConj ------------------------------------------------------------- */
+/*
+ * As MulPack, with the in-place operand conjugated: pSrcDst = pSrc *
+ * conj(pSrcDst), bin by bin, in Pack layout.
+ */
+QspStatus qspsMulPackConj_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MulPerm ----------------------------------------------------------------- */
+/*
+ * Multiplies two half spectra in Perm layout bin by bin: pDst = pSrc1 * pSrc2,
+ * or in place pSrcDst = pSrc * pSrcDst. Element 0 and, for even len, element 1
+ * are real; the complex pairs follow. len is the packed length (N values).
+ */
+QspStatus qspsMulPerm_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMulPerm_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPerm_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMulPerm_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* ConjPerm ---------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in Perm layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values).
+ */
+QspStatus qspsConjPerm_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjPerm_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjPerm_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjPerm_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* ConjPack ---------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in Pack layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values). _L forms take a 64-bit length
+ * and run in one pass.
+ */
+QspStatus qspsConjPack_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjPack_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjPack_32fc_L(const Qsp32f* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsConjPack_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsConjPack_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjPack_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsConjPack_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsConjPack_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
+/* ConjCcs ----------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in CCS layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values). _L forms take a 64-bit length
+ * and run in one pass.
+ */
+QspStatus qspsConjCcs_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjCcs_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjCcs_32fc_L(const Qsp32f* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsConjCcs_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsConjCcs_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjCcs_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsConjCcs_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
 /* Max --------------------------------------------------------------------- */
 /*
  * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it

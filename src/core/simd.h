@@ -10,25 +10,33 @@
 //   stream                     aligned non-temporal store
 //   zero(), splat(x)           constant registers
 //   reverse(r)                 lanes in reverse order
-// Arithmetic members are added beside these as kernels need them:
-//   max(a, b), min(a, b)       lane-wise; for floating types exactly
-//                              (a > b ? a : b) and (a < b ? a : b), so the
-//                              second operand comes out when the lanes are
-//                              unordered (a NaN on either side)
-//   eq(a, b)                   all ones in the lanes that compare equal
-//                              (floating: ordered, so -0 == +0, NaN != NaN)
-//   laneMask(r)                one bit per lane, from the top bit of each
-//                              lane of a comparison result
-//   abs(r)                     magnitudes (signed integers: as unsigned, so
-//                              the most negative value keeps its pattern)
+// Arithmetic members are added beside these as kernels need them.
 #pragma once
 #include <nmmintrin.h>
+#include <pmmintrin.h>
 
 #include "qspdefs.h"
 
 namespace simd {
 
 constexpr int kBytes = 16;
+
+// Scalar access that makes no alignment assumption: callers may hand us
+// element pointers at any byte address, and the compiler turns these into
+// plain moves.
+template <class T>
+inline T loadOne(const T* p)
+{
+    T x;
+    __builtin_memcpy(&x, p, sizeof(T));
+    return x;
+}
+
+template <class T>
+inline void storeOne(T* p, const T& x)
+{
+    __builtin_memcpy(p, &x, sizeof(T));
+}
 
 // Asks for the cache line holding p ahead of its use. Only a hint: it never
 // faults, whatever the address.
@@ -57,10 +65,11 @@ struct Vec<Qsp8u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
     }
-    static Reg max(Reg a, Reg b) { return _mm_max_epu8(a, b); }
     static Reg min(Reg a, Reg b) { return _mm_min_epu8(a, b); }
-    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_epi8(a, b); }
-    static int laneMask(Reg r) { return _mm_movemask_epi8(r); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu8(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi8(a, b); }
+    // One bit per lane: the top bit of each lane.
+    static int anyMask(Reg a) { return _mm_movemask_epi8(a); }
 };
 
 template <>
@@ -71,18 +80,11 @@ struct Vec<Qsp16u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1));
     }
-    static Reg max(Reg a, Reg b) { return _mm_max_epu16(a, b); }
     static Reg min(Reg a, Reg b) { return _mm_min_epu16(a, b); }
-    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
-    static int laneMask(Reg r) { return _mm_movemask_epi8(_mm_packs_epi16(r, _mm_setzero_si128())); }
-};
-
-template <>
-struct Vec<Qsp16s> : Vec<Qsp16u> {
-    static Reg splat(Qsp16s x) { return _mm_set1_epi16(x); }
-    static Reg max(Reg a, Reg b) { return _mm_max_epi16(a, b); }
-    static Reg min(Reg a, Reg b) { return _mm_min_epi16(a, b); }
-    static Reg abs(Reg r) { return _mm_abs_epi16(r); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu16(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
+    // One bit per lane of a comparison result (all-ones or all-zero lanes).
+    static int anyMask(Reg a) { return _mm_movemask_epi8(_mm_packs_epi16(a, _mm_setzero_si128())); }
 };
 
 template <>
@@ -90,18 +92,10 @@ struct Vec<Qsp32u> : IntRegOps {
     static constexpr int lanes = 4;
     static Reg splat(Qsp32u x) { return _mm_set1_epi32(static_cast<int>(x)); }
     static Reg reverse(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(0, 1, 2, 3)); }
-    static Reg max(Reg a, Reg b) { return _mm_max_epu32(a, b); }
     static Reg min(Reg a, Reg b) { return _mm_min_epu32(a, b); }
-    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
-    static int laneMask(Reg r) { return _mm_movemask_ps(_mm_castsi128_ps(r)); }
-};
-
-template <>
-struct Vec<Qsp32s> : Vec<Qsp32u> {
-    static Reg splat(Qsp32s x) { return _mm_set1_epi32(x); }
-    static Reg max(Reg a, Reg b) { return _mm_max_epi32(a, b); }
-    static Reg min(Reg a, Reg b) { return _mm_min_epi32(a, b); }
-    static Reg abs(Reg r) { return _mm_abs_epi32(r); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu32(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
+    static int anyMask(Reg a) { return _mm_movemask_ps(_mm_castsi128_ps(a)); }
 };
 
 template <>
@@ -127,11 +121,40 @@ struct Vec<float> {
     static Reg sub(Reg a, Reg b) { return _mm_sub_ps(a, b); }
     static Reg mul(Reg a, Reg b) { return _mm_mul_ps(a, b); }
     static Reg div(Reg a, Reg b) { return _mm_div_ps(a, b); }
-    static Reg max(Reg a, Reg b) { return _mm_max_ps(a, b); }
+    static Reg sqrt(Reg a) { return _mm_sqrt_ps(a); }
     static Reg min(Reg a, Reg b) { return _mm_min_ps(a, b); }
-    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_ps(a, b); }
-    static int laneMask(Reg r) { return _mm_movemask_ps(r); }
-    static Reg abs(Reg r) { return _mm_and_ps(r, _mm_castsi128_ps(_mm_set1_epi32(0x7FFFFFFF))); }
+    static Reg max(Reg a, Reg b) { return _mm_max_ps(a, b); }
+    static Reg bitAnd(Reg a, Reg b) { return _mm_and_ps(a, b); }
+    static Reg bitOr(Reg a, Reg b) { return _mm_or_ps(a, b); }
+    static Reg bitXor(Reg a, Reg b) { return _mm_xor_ps(a, b); }
+    static Reg andNot(Reg a, Reg b) { return _mm_andnot_ps(a, b); }  // ~a & b
+    static Reg cmplt(Reg a, Reg b) { return _mm_cmplt_ps(a, b); }
+    static Reg cmple(Reg a, Reg b) { return _mm_cmple_ps(a, b); }
+    static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_ps(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_ps(a, b); }
+    static int anyMask(Reg a) { return _mm_movemask_ps(a); }
+    // Lanes of b where mask is set, of a elsewhere.
+    static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_ps(a, b, mask); }
+    // Interleaved complex pairs: real parts duplicated, imaginary parts
+    // duplicated, parts exchanged, and subtract-in-even/add-in-odd lanes.
+    static Reg dupRe(Reg a) { return _mm_moveldup_ps(a); }
+    static Reg dupIm(Reg a) { return _mm_movehdup_ps(a); }
+    static Reg swapParts(Reg a) { return _mm_shuffle_ps(a, a, _MM_SHUFFLE(2, 3, 0, 1)); }
+    static Reg addsub(Reg a, Reg b) { return _mm_addsub_ps(a, b); }
+    static Reg signBit() { return _mm_castsi128_ps(_mm_set1_epi32(int(0x80000000u))); }
+    // One (re, im) pair: repeated in both halves, or alone in the low half
+    // (the pointer need not be aligned); stores of either half.
+    static Reg loadPairDup(const float* p)
+    {
+        return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)));
+    }
+    static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
+    static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
+    static Reg loadPair(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
+    static void storePair(float* p, Reg r) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
+    static void storeHighPair(float* p, Reg r) { _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
+    static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
+    static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
 };
 
 template <>
@@ -150,11 +173,28 @@ struct Vec<double> {
     static Reg sub(Reg a, Reg b) { return _mm_sub_pd(a, b); }
     static Reg mul(Reg a, Reg b) { return _mm_mul_pd(a, b); }
     static Reg div(Reg a, Reg b) { return _mm_div_pd(a, b); }
-    static Reg max(Reg a, Reg b) { return _mm_max_pd(a, b); }
+    static Reg sqrt(Reg a) { return _mm_sqrt_pd(a); }
     static Reg min(Reg a, Reg b) { return _mm_min_pd(a, b); }
-    static Reg eq(Reg a, Reg b) { return _mm_cmpeq_pd(a, b); }
-    static int laneMask(Reg r) { return _mm_movemask_pd(r); }
-    static Reg abs(Reg r) { return _mm_and_pd(r, _mm_castsi128_pd(_mm_set1_epi64x(0x7FFFFFFFFFFFFFFFll))); }
+    static Reg max(Reg a, Reg b) { return _mm_max_pd(a, b); }
+    static Reg bitAnd(Reg a, Reg b) { return _mm_and_pd(a, b); }
+    static Reg bitOr(Reg a, Reg b) { return _mm_or_pd(a, b); }
+    static Reg bitXor(Reg a, Reg b) { return _mm_xor_pd(a, b); }
+    static Reg andNot(Reg a, Reg b) { return _mm_andnot_pd(a, b); }  // ~a & b
+    static Reg cmplt(Reg a, Reg b) { return _mm_cmplt_pd(a, b); }
+    static Reg cmple(Reg a, Reg b) { return _mm_cmple_pd(a, b); }
+    static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_pd(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_pd(a, b); }
+    static int anyMask(Reg a) { return _mm_movemask_pd(a); }
+    static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_pd(a, b, mask); }
+    static Reg dupRe(Reg a) { return _mm_movedup_pd(a); }
+    static Reg dupIm(Reg a) { return _mm_unpackhi_pd(a, a); }
+    static Reg swapParts(Reg a) { return _mm_shuffle_pd(a, a, 1); }
+    static Reg addsub(Reg a, Reg b) { return _mm_addsub_pd(a, b); }
+    static Reg signBit() { return _mm_castsi128_pd(_mm_set1_epi64x(0x8000000000000000ll)); }
+    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); } // a0, b0
+    static Reg highHalves(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); } // a1, b1
+    static Reg negOdd(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(0.0, -0.0)); }
+    static Reg negEven(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(-0.0, 0.0)); }
 };
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit
@@ -180,5 +220,117 @@ template <> struct BitsOfSize<16> { using type = Bits128; };
 
 template <class T>
 using Bits = typename BitsOfSize<sizeof(T)>::type;
+
+}  // namespace simd
+
+// ---------------------------------------------------------------------------
+// Signed integer lanes with arithmetic: the element-wise integer kernels
+// widen their operands to 32-bit lanes, form the exact result there, scale
+// it and narrow it with saturation.
+namespace simd {
+
+template <>
+struct Vec<Qsp16s> : IntRegOps {
+    static constexpr int lanes = 8;
+    static Reg splat(Qsp16s x) { return _mm_set1_epi16(x); }
+    static Reg reverse(Reg r) { return Vec<Qsp16u>::reverse(r); }
+    static Reg adds(Reg a, Reg b) { return _mm_adds_epi16(a, b); }
+    static Reg subs(Reg a, Reg b) { return _mm_subs_epi16(a, b); }
+    static Reg mullo(Reg a, Reg b) { return _mm_mullo_epi16(a, b); }
+    static Reg mulhi(Reg a, Reg b) { return _mm_mulhi_epi16(a, b); }
+    // Two registers of 32-bit lanes narrowed to 16-bit lanes with signed
+    // saturation (a first).
+    static Reg packs32(Reg a, Reg b) { return _mm_packs_epi32(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi16(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi16(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
+    static int anyMask(Reg a) { return Vec<Qsp16u>::anyMask(a); }
+    // Magnitudes as unsigned lanes: -32768 keeps its pattern, 32768.
+    static Reg abs(Reg a) { return _mm_abs_epi16(a); }
+};
+
+template <>
+struct Vec<Qsp32s> : IntRegOps {
+    static constexpr int lanes = 4;
+    static Reg splat(Qsp32s x) { return _mm_set1_epi32(x); }
+    static Reg reverse(Reg r) { return Vec<Qsp32u>::reverse(r); }
+    static Reg add(Reg a, Reg b) { return _mm_add_epi32(a, b); }
+    static Reg sub(Reg a, Reg b) { return _mm_sub_epi32(a, b); }
+    static Reg mullo(Reg a, Reg b) { return _mm_mullo_epi32(a, b); }
+    static Reg bitAnd(Reg a, Reg b) { return _mm_and_si128(a, b); }
+    static Reg bitOr(Reg a, Reg b) { return _mm_or_si128(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi32(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi32(a, b); }
+    static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi32(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
+    static int anyMask(Reg a) { return Vec<Qsp32u>::anyMask(a); }
+    // Magnitudes as unsigned lanes: the most negative value keeps its
+    // pattern, 2^31.
+    static Reg abs(Reg a) { return _mm_abs_epi32(a); }
+    // a with the sign of b applied: a, -a or 0 as b is positive, negative, 0.
+    static Reg sign(Reg a, Reg b) { return _mm_sign_epi32(a, b); }
+    // Shift counts held in the low 64 bits of a register (see count()).
+    static Reg count(int n) { return _mm_cvtsi32_si128(n); }
+    static Reg sra(Reg a, Reg n) { return _mm_sra_epi32(a, n); }
+    static Reg sll(Reg a, Reg n) { return _mm_sll_epi32(a, n); }
+    static Reg srl(Reg a, Reg n) { return _mm_srl_epi32(a, n); }
+    static Reg srai1(Reg a) { return _mm_srai_epi32(a, 1); }
+    // Widening of the low or high half of a register of 16-bit lanes.
+    static Reg lo16s(Reg a) { return _mm_cvtepi16_epi32(a); }
+    static Reg hi16s(Reg a) { return _mm_cvtepi16_epi32(_mm_srli_si128(a, 8)); }
+    static Reg lo16u(Reg a) { return _mm_cvtepu16_epi32(a); }
+    static Reg hi16u(Reg a) { return _mm_cvtepu16_epi32(_mm_srli_si128(a, 8)); }
+    // Widening of the quarter q (0..3) of a register of 8-bit lanes.
+    template <int q>
+    static Reg quarter8u(Reg a) { return _mm_cvtepu8_epi32(_mm_srli_si128(a, 4 * q)); }
+    template <int q>
+    static Reg quarter8s(Reg a) { return _mm_cvtepi8_epi32(_mm_srli_si128(a, 4 * q)); }
+};
+
+// Narrowing of 32-bit lanes with saturation to the unsigned types.
+template <>
+struct Vec<Qsp8s> : IntRegOps {
+    static constexpr int lanes = 16;
+    static Reg splat(Qsp8s x) { return _mm_set1_epi8(x); }
+    static Reg reverse(Reg r) { return Vec<Qsp8u>::reverse(r); }
+};
+
+// Four registers of 32-bit lanes to one register of 16 saturated 8u lanes.
+inline __m128i packs32to8u(__m128i a, __m128i b, __m128i c, __m128i d)
+{
+    return _mm_packus_epi16(_mm_packs_epi32(a, b), _mm_packs_epi32(c, d));
+}
+// Two registers of 32-bit lanes to one register of 8 saturated 16u lanes.
+inline __m128i packs32to16u(__m128i a, __m128i b) { return _mm_packus_epi32(a, b); }
+
+}  // namespace simd
+
+// ---------------------------------------------------------------------------
+// Complex floating elements as registers of interleaved parts (two 32fc or
+// one 64fc per register): the arithmetic is that of the part type; loads
+// and stores take element pointers.
+namespace simd {
+
+template <class C, class P>
+struct ComplexVec : Vec<P> {
+    using Reg = typename Vec<P>::Reg;
+    static constexpr int lanes = Vec<P>::lanes / 2;
+    static Reg load(const C* p) { return Vec<P>::load(reinterpret_cast<const P*>(p)); }
+    static Reg loadu(const C* p) { return Vec<P>::loadu(reinterpret_cast<const P*>(p)); }
+    static void store(C* p, Reg r) { Vec<P>::store(reinterpret_cast<P*>(p), r); }
+    static void storeu(C* p, Reg r) { Vec<P>::storeu(reinterpret_cast<P*>(p), r); }
+    static void stream(C* p, Reg r) { Vec<P>::stream(reinterpret_cast<P*>(p), r); }
+    // Every element equal to c.
+    static Reg splat(C c)
+    {
+        if constexpr (lanes == 2) return _mm_setr_ps(c.re, c.im, c.re, c.im);
+        else return _mm_setr_pd(c.re, c.im);
+    }
+};
+
+template <>
+struct Vec<Qsp32fc> : ComplexVec<Qsp32fc, float> {};
+template <>
+struct Vec<Qsp64fc> : ComplexVec<Qsp64fc, double> {};
 
 }  // namespace simd

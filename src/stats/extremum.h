@@ -63,7 +63,7 @@ template <>
 struct Magnitude<Qsp32f> {
     using C = Qsp32f;
     static C of(Qsp32f x) { return __builtin_fabsf(x); }
-    static __m128 of(__m128 r) { return simd::Vec<Qsp32f>::abs(r); }
+    static __m128 of(__m128 r) { return simd::Vec<Qsp32f>::andNot(simd::Vec<Qsp32f>::signBit(), r); }
     static Qsp32f out(C c) { return c; }
 };
 
@@ -71,7 +71,7 @@ template <>
 struct Magnitude<Qsp64f> {
     using C = Qsp64f;
     static C of(Qsp64f x) { return __builtin_fabs(x); }
-    static __m128d of(__m128d r) { return simd::Vec<Qsp64f>::abs(r); }
+    static __m128d of(__m128d r) { return simd::Vec<Qsp64f>::andNot(simd::Vec<Qsp64f>::signBit(), r); }
     static Qsp64f out(C c) { return c; }
 };
 
@@ -207,8 +207,8 @@ Qsp64s ownsFindFirstEqual(const T* pSrc, Qsp64s len, typename View::C value)
     const auto v = VC::splat(value);
     Qsp64s i = 0;
     for (; i + 2 * L <= len; i += 2 * L) {
-        const int m0 = VC::laneMask(VC::eq(View::of(VT::loadu(pSrc + i)), v));
-        const int m1 = VC::laneMask(VC::eq(View::of(VT::loadu(pSrc + i + L)), v));
+        const int m0 = VC::anyMask(VC::cmpeq(View::of(VT::loadu(pSrc + i)), v));
+        const int m1 = VC::anyMask(VC::cmpeq(View::of(VT::loadu(pSrc + i + L)), v));
         if (m0 | m1) return i + __builtin_ctz(unsigned(m0 | (m1 << L)));
     }
     for (; i < len; ++i)
@@ -251,7 +251,7 @@ Qsp64s ownsSearchIndex(const T* pSrc, Qsp64s len)
                 a3 = Pick::template stepv<VC>(View::of(VT::loadu(pSrc + i + j + 3 * L)), a3);
             }
             const auto m = Pick::template stepv<VC>(Pick::template stepv<VC>(a0, a1), Pick::template stepv<VC>(a2, a3));
-            if (VC::laneMask(VC::eq(m, b)) != allLanes) {
+            if (VC::anyMask(VC::cmpeq(m, b)) != allLanes) {
                 best = ownsFold<Pick, C>(m);
                 at = i + ownsFindFirstEqual<View>(pSrc + i, B, best);
             }

@@ -1,0 +1,107 @@
+// Twiddle factors of the power-of-two transforms.
+//
+// Every twiddle W_N^k = exp(-2*pi*i*k/N) is taken from one table of the
+// first octant, cos and sin of 2*pi*j/N for 0 <= j <= N/8, by the exact
+// symmetries of the circle, so each one is the correctly rounded value (no
+// value is ever obtained by repeated multiplication).
+//
+// Lengths up to 1024 read the octant from the built-in table, computed by the
+// compiler from the library's own sine and cosine. Longer lengths build the
+// octant at Init in the caller's initialisation buffer: each value is the
+// product, in the extended format, of a coarse and a fine extended-precision
+// value, rounded once to the element type.
+#pragma once
+#include "mathfn/sincospi.h"
+#include "qspdefs.h"
+
+namespace fft {
+
+template <class T>
+struct Cplx {
+    T re, im;
+};
+
+// The built-in octant has length 1024: cos and sin of 2*pi*j/1024, 0 <= j <= 128.
+constexpr int kBuiltinOrder = 10;
+constexpr int kBuiltinOctant = (1 << kBuiltinOrder) / 8;
+
+
+// A view of the octant of length 2^order: entry j is (cos, sin) of
+// 2*pi*j/2^order, stored at table[j * stride].
+template <class T>
+struct Octant {
+    const Cplx<T>* table;
+    Qsp64s stride;
+    int order;
+};
+
+// Fills octant[0..N/8] for N = 2^order (order >= 3) in the element type.
+template <class T>
+void ownsBuildOctant(Cplx<T>* octant, int order);
+
+// W_N^k = exp(-2*pi*i*k/N) for 0 <= k < N, N = 2^order, from an octant
+// table of T (orders 0..2 have no octant and are served exactly).
+template <class T>
+inline Cplx<T> twiddle(const Octant<T>& o, Qsp64s k)
+{
+    const Qsp64s n = Qsp64s(1) << o.order;
+    k &= n - 1;
+    if (o.order < 3) {
+        // N = 1, 2, 4: the values are 1, -1, -i, i exactly.
+        const Qsp64s q = o.order == 0 ? 0 : (k << (2 - o.order));
+        switch (q & 3) {
+        case 0: return {T(1), T(0)};
+        case 1: return {T(0), T(-1)};
+        case 2: return {T(-1), T(0)};
+        default: return {T(0), T(1)};
+        }
+    }
+    const Qsp64s quarter = n >> 2;
+    const Qsp64s q = k / quarter, r = k - q * quarter;
+    T c, s;
+    if (r <= (quarter >> 1)) {
+        const Cplx<T> v = o.table[r * o.stride];
+        c = v.re;
+        s = v.im;
+    } else {
+        const Cplx<T> v = o.table[(quarter - r) * o.stride];
+        c = v.im;
+        s = v.re;
+    }
+    // exp(+i*theta) rotated by q quarter turns, then conjugated.
+    switch (q) {
+    case 0: return {c, -s};
+    case 1: return {-s, -c};
+    case 2: return {-c, s};
+    default: return {s, c};
+    }
+}
+
+// The built-in octant as a view for lengths up to 1024, in T.
+template <class T>
+struct BuiltinAs {
+    Cplx<T> v[kBuiltinOctant + 1];
+};
+
+template <class T>
+constexpr BuiltinAs<T> makeBuiltinAs()
+{
+    BuiltinAs<T> t{};
+    // Rounded once, from the extended-precision values, to T.
+    for (int j = 0; j <= kBuiltinOctant; ++j) {
+        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(2.0 * j / (1 << kBuiltinOrder));
+        t.v[j] = {T(sc.c), T(sc.s)};
+    }
+    return t;
+}
+
+template <class T>
+inline constexpr BuiltinAs<T> kBuiltinAs = makeBuiltinAs<T>();
+
+template <class T>
+inline Octant<T> builtinOctant(int order)
+{
+    return {kBuiltinAs<T>.v, order >= 3 ? (Qsp64s(1) << (kBuiltinOrder - order)) : 0, order};
+}
+
+}  // namespace fft
