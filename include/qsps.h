@@ -458,6 +458,70 @@ QspStatus qspsConjCcs_64fc_I(Qsp64fc* pSrcDst, int len);
 QspStatus qspsConjCcs_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
 
+/* Sum --------------------------------------------------------------------- */
+/*
+ * Sum of the elements: *pSum = sum of pSrc[i]. 32f/32fc accumulate by the hint
+ * (1 fast: single-precision blocks widened to double; else accurate: every
+ * element widened to double) and round the double total to single precision.
+ * 64f/64fc add in double. 16s32s and 16sc32sc sum exactly, scale by
+ * 2^-scaleFactor, saturate to 32 bits and round; 16s/16sc then saturate to 16
+ * bits; 32s sums in 64 bits. _L forms take a 64-bit length.
+ */
+QspStatus qspsSum_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pSum, int scaleFactor);
+QspStatus qspsSum_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pSum, int scaleFactor);
+QspStatus qspsSum_16sc32sc_Sfs(const Qsp16sc* pSrc, int len, Qsp32sc* pSum, int scaleFactor);
+QspStatus qspsSum_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_32f(const Qsp32f* pSrc, int len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_64f(const Qsp64f* pSrc, int len, Qsp64f* pSum);
+QspStatus qspsSum_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pSum);
+QspStatus qspsSum_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pSum);
+QspStatus qspsSum_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pSum);
+
+/* Mean -------------------------------------------------------------------- */
+/*
+ * Mean of the elements: *pMean = (sum of pSrc[i]) / len, the sum formed as in
+ * Sum (with the hint for 32f/32fc) and divided in double. Integer forms scale
+ * by 2^-scaleFactor, saturate and round. _L forms take a 64-bit length.
+ */
+QspStatus qspsMean_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, int scaleFactor);
+QspStatus qspsMean_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pMean, int scaleFactor);
+QspStatus qspsMean_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pMean, int scaleFactor);
+QspStatus qspsMean_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean);
+QspStatus qspsMean_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMean);
+QspStatus qspsMean_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pMean);
+QspStatus qspsMean_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pMean);
+
+/* StdDev ------------------------------------------------------------------ */
+/*
+ * Sample standard deviation: *pStdDev = sqrt((len*Q - S^2) / (len*(len-1))),
+ * S the sum and Q the sum of squares, both in double; a negative numerator is
+ * taken as 0. len below 2 gives qspStsBadSize. 32f: hint 1 selects a fast
+ * kernel. Integer forms scale, saturate and round as Sum.
+ */
+QspStatus qspsStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pStdDev);
+
+/* MeanStdDev -------------------------------------------------------------- */
+/*
+ * Mean and sample standard deviation in one pass (see Mean and StdDev); len
+ * below 2 gives qspStsBadSize. The 32f form always uses the accurate kernel and
+ * ignores its hint.
+ */
+QspStatus qspsMeanStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pMean, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsMeanStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean, Qsp64f* pStdDev);
+
 /* Max --------------------------------------------------------------------- */
 /*
  * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it

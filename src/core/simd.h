@@ -195,7 +195,26 @@ struct Vec<double> {
     static Reg highHalves(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); } // a1, b1
     static Reg negOdd(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(0.0, -0.0)); }
     static Reg negEven(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(-0.0, 0.0)); }
+    // Lanes 0, 1 or lanes 2, 3 of a register of floats, widened exactly.
+    static Reg widenLow(__m128 f) { return _mm_cvtps_pd(f); }
+    static Reg widenHigh(__m128 f) { return _mm_cvtps_pd(_mm_movehl_ps(f, f)); }
 };
+
+// Scalar conversions and roots done by the processor's instructions (no
+// library calls): x to a 32-bit integer under the current rounding mode;
+// x rounded to the nearest integer, ties to even, whatever the mode; the
+// correctly rounded square root.
+inline Qsp32s toInt32Current(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+inline double roundEven(double x)
+{
+    const __m128d v = _mm_set_sd(x);
+    return _mm_cvtsd_f64(_mm_round_sd(v, v, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
+}
+// A float widened to double by the instruction itself: a value rounded to
+// single precision and widened again stays rounded (a plain conversion
+// pair may be folded away by the vectorizer).
+inline double widenOne(float x) { return _mm_cvtsd_f64(_mm_cvtss_sd(_mm_setzero_pd(), _mm_set_ss(x))); }
+inline double sqrtOne(double x) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(x))); }
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit
 // integer): one per register.

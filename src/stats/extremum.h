@@ -320,8 +320,7 @@ QspStatus searchIndex(const T* pSrc, int len, T* pValue, int* pIndx, ValueOnly v
 template <class Pick, class T, class Ordinary>
 QspStatus searchValueL(Qsp64s chunk, const T* pSrc, Qsp64s len, T* pValue, Ordinary ordinary)
 {
-    if (QspStatus s = check::length(len)) return s;
-    if (QspStatus s = check::pointers(pSrc, pValue)) return s;
+    if (QspStatus s = check::vectorsL(len, pSrc, pValue)) return s;
     T current{};
     return chunkedBy(chunk, len, [&](Qsp64s at, int n) -> QspStatus {
         T part;
@@ -337,8 +336,7 @@ QspStatus searchIndexL(Qsp64s chunk, const T* pSrc, Qsp64s len, T* pValue, Qsp64
                        ValueOnlyL valueOnlyL)
 {
     if (pIndx == nullptr) return valueOnlyL(pSrc, len, pValue);
-    if (QspStatus s = check::length(len)) return s;
-    if (QspStatus s = check::pointers(pSrc, pValue)) return s;
+    if (QspStatus s = check::vectorsL(len, pSrc, pValue)) return s;
     T best{};
     Qsp64s bestAt = 0;
     return chunkedBy(chunk, len, [&](Qsp64s at, int n) -> QspStatus {

@@ -20,8 +20,7 @@ QspStatus minMax(const T* pSrc, int len, T* pMin, T* pMax)
 template <class T, class Ordinary>
 QspStatus minMaxL(Qsp64s chunk, const T* pSrc, Qsp64s len, T* pMin, T* pMax, Ordinary ordinary)
 {
-    if (QspStatus s = check::length(len)) return s;
-    if (QspStatus s = check::pointers(pSrc, pMin, pMax)) return s;
+    if (QspStatus s = check::vectorsL(len, pSrc, pMin, pMax)) return s;
     T lo{}, hi{};
     return chunkedBy(chunk, len, [&](Qsp64s at, int n) -> QspStatus {
         T partLo, partHi;

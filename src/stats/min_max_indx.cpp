@@ -38,8 +38,7 @@ template <class T, class Ordinary>
 QspStatus minMaxIndxL(Qsp64s chunk, const T* pSrc, Qsp64s len, T* pMin, Qsp64s* pMinIndx, T* pMax,
                       Qsp64s* pMaxIndx, Ordinary ordinary)
 {
-    if (QspStatus s = check::length(len)) return s;
-    if (QspStatus s = check::pointers(pSrc, pMin, pMinIndx, pMax, pMaxIndx)) return s;
+    if (QspStatus s = check::vectorsL(len, pSrc, pMin, pMinIndx, pMax, pMaxIndx)) return s;
     return chunkedBy(chunk, len, [&](Qsp64s at, int n) -> QspStatus {
         T lo, hi;
         int loAt, hiAt;
