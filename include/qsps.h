@@ -522,6 +522,65 @@ QspStatus qspsMeanStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pMean, 
 QspStatus qspsMeanStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, Qsp32f* pStdDev, QspHintAlgorithm hint);
 QspStatus qspsMeanStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean, Qsp64f* pStdDev);
 
+/* Norm -------------------------------------------------------------------- */
+/*
+ * Vector norms: Inf *pNorm = max |pSrc[i]|; L1 sum of |pSrc[i]|; L2 sqrt(sum of
+ * |pSrc[i]|^2); L2Sqr sum of |pSrc[i]|^2 (complex: magnitudes). Two type codes:
+ * source, then result. 32f L2 accumulates squares in single precision. Sfs
+ * forms scale by 2^-scaleFactor and saturate (Inf_16s32s: truncating shifts).
+ * _L forms take a 64-bit length.
+ */
+QspStatus qspsNorm_Inf_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_Inf_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_32fc32f(const Qsp32fc* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_Inf_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L2_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_32fc64f_L(const Qsp32fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+
+/* NormDiff ---------------------------------------------------------------- */
+/*
+ * Norms of the difference pSrc1[i] - pSrc2[i], as Norm computes them of one
+ * vector; same type set and scaling.
+ */
+QspStatus qspsNormDiff_Inf_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_Inf_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_32fc32f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_Inf_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L2_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+
 /* Max --------------------------------------------------------------------- */
 /*
  * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it
