@@ -581,6 +581,38 @@ QspStatus qspsNormDiff_L2_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len,
 QspStatus qspsNormDiff_L2_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
 QspStatus qspsNormDiff_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
 
+/* DotProd ----------------------------------------------------------------- */
+/*
+ * Dot product: *pDp = sum of pSrc1[i] * pSrc2[i], without conjugation. Type
+ * codes: both sources, then the result (16s32f: 16s sources, 32f result;
+ * 32f32fc: a 32f and a 32fc source, 32fc result; 16s32s32s: 16s and 32s
+ * sources, 32s result). 32f accumulates in single precision in six lanes; Sfs
+ * forms scale by 2^-scaleFactor, round and saturate. _L forms take a 64-bit
+ * length.
+ */
+QspStatus qspsDotProd_16s16sc64sc(const Qsp16s* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_16s32s32s_Sfs(const Qsp16s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s64s(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pDp);
+QspStatus qspsDotProd_16sc64sc(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_32f32fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc_L(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f64f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_32f64f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32fc64fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32fc64fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_64f64fc(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f64fc_L(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+
 /* Max --------------------------------------------------------------------- */
 /*
  * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it

@@ -251,6 +251,108 @@ float ownsSumSquares8_32f(Src src, Qsp64s count)
 }
 
 // ---------------------------------------------------------------------------
+// Dot products.
+// ---------------------------------------------------------------------------
+
+// 32-bit floats in single precision, six lanes: lanes 0..5 take the
+// products of elements 6k..6k+5 for every whole group of six; then the
+// lanes are added from lane 0 up, ((((l0 + l1) + l2) + l3) + l4) + l5, and
+// the 0 to 5 remaining products are added one by one.
+inline Qsp32f ownsDotProd6_32f(const Qsp32f* a, const Qsp32f* b, Qsp64s len)
+{
+    using V = simd::Vec<float>;
+    auto lo = V::zero(), hi = V::zero();  // lanes 0..3; lanes 4, 5 in the low half
+    const Qsp64s whole = len / 6 * 6;
+    Qsp64s i = 0;
+    for (; i < whole; i += 6) {
+        lo = V::add(lo, V::mul(V::loadu(a + i), V::loadu(b + i)));
+        hi = V::add(hi, V::mul(V::loadPair(a + i + 4), V::loadPair(b + i + 4)));
+    }
+    alignas(16) float l[4], h[4];
+    V::store(l, lo);
+    V::store(h, hi);
+    float total = ((((l[0] + l[1]) + l[2]) + l[3]) + h[0]) + h[1];
+    for (; i < len; ++i) total += a[i] * b[i];
+    return total;
+}
+
+// Real vectors in eight double lanes (32-bit floats widened, so every
+// product is exact before it is added), folded as ownsSumWide folds.
+template <class T>
+double ownsDotWide(const T* a, const T* b, Qsp64s len)
+{
+    using VD = simd::Vec<double>;
+    auto a0 = VD::zero(), a1 = a0, a2 = a0, a3 = a0;
+    Qsp64s i = 0;
+    for (; i + 8 <= len; i += 8) {
+        __m128d x0, x1, x2, x3, y0, y1, y2, y3;
+        Widened<T>::load4(Elements<T>{a}, i, x0, x1, x2, x3);
+        Widened<T>::load4(Elements<T>{b}, i, y0, y1, y2, y3);
+        a0 = VD::add(a0, VD::mul(x0, y0));
+        a1 = VD::add(a1, VD::mul(x1, y1));
+        a2 = VD::add(a2, VD::mul(x2, y2));
+        a3 = VD::add(a3, VD::mul(x3, y3));
+    }
+    alignas(16) double t[2];
+    VD::store(t, VD::add(VD::add(a0, a2), VD::add(a1, a3)));
+    double total = t[0] + t[1];
+    for (; i < len; ++i) total += double(a[i]) * double(b[i]);
+    return total;
+}
+
+// Complex results in double, from element k of each source as a register
+// of (real, imaginary) parts, widened when single precision. A complex
+// second factor b = (br, bi) is multiplied without conjugation: two
+// accumulators gather (ar br, ai br) and (ai bi, ar bi), and the result is
+// their difference in the real lane and their sum in the imaginary lane. A
+// real first factor x gives (x br, x bi).
+template <class T>
+__m128d complexAt(const T* parts, Qsp64s k)
+{
+    if constexpr (sizeof(T) == 4)
+        return simd::Vec<double>::widenLow(simd::Vec<float>::loadPair(parts + 2 * k));
+    else
+        return simd::Vec<double>::loadu(parts + 2 * k);
+}
+
+template <class T>
+__m128d realAt(const T* p, Qsp64s k)
+{
+    return simd::Vec<double>::splat(double(p[k]));
+}
+
+template <bool RealFirst, class TA, class TB>
+void ownsDotComplex(const TA* a, const TB* bParts, Qsp64s len, double& re, double& im)
+{
+    using VD = simd::Vec<double>;
+    auto p = VD::zero(), q = VD::zero();
+    for (Qsp64s k = 0; k < len; ++k) {
+        const __m128d b = complexAt(bParts, k);
+        if constexpr (RealFirst) {
+            p = VD::add(p, VD::mul(realAt(a, k), b));
+        } else {
+            const __m128d x = complexAt(a, k);
+            p = VD::add(p, VD::mul(x, VD::dupRe(b)));
+            q = VD::add(q, VD::mul(VD::swapParts(x), VD::dupIm(b)));
+        }
+    }
+    alignas(16) double pp[2], qq[2];
+    VD::store(pp, p);
+    VD::store(qq, q);
+    re = RealFirst ? pp[0] : pp[0] - qq[0];
+    im = RealFirst ? pp[1] : pp[1] + qq[1];
+}
+
+// Exact integer dot products, in 64 bits (16-bit by 16-bit) or 128 bits.
+template <class W, class TA, class TB>
+W ownsDotExact(const TA* a, const TB* b, Qsp64s len)
+{
+    W total = 0;
+    for (Qsp64s i = 0; i < len; ++i) total += W(Qsp64s(a[i]) * Qsp64s(b[i]));
+    return total;
+}
+
+// ---------------------------------------------------------------------------
 // Largest magnitude of floating elements, with the step of the value
 // search (current = current > x ? current : x, lane by lane, so a NaN
 // element replaces the current value): four registers side by side, folded
