@@ -709,6 +709,316 @@ QspStatus qspsConjCcs_64fc_I(Qsp64fc* pSrcDst, int len);
 QspStatus qspsConjCcs_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
 
+/* Sum --------------------------------------------------------------------- */
+/*
+ * Sum of the elements: *pSum = sum of pSrc[i]. 32f/32fc accumulate by the hint
+ * (1 fast: single-precision blocks widened to double; else accurate: every
+ * element widened to double) and round the double total to single precision.
+ * 64f/64fc add in double. 16s32s and 16sc32sc sum exactly, scale by
+ * 2^-scaleFactor, saturate to 32 bits and round; 16s/16sc then saturate to 16
+ * bits; 32s sums in 64 bits. _L forms take a 64-bit length.
+ */
+QspStatus qspsSum_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pSum, int scaleFactor);
+QspStatus qspsSum_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pSum, int scaleFactor);
+QspStatus qspsSum_16sc32sc_Sfs(const Qsp16sc* pSrc, int len, Qsp32sc* pSum, int scaleFactor);
+QspStatus qspsSum_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_32f(const Qsp32f* pSrc, int len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_64f(const Qsp64f* pSrc, int len, Qsp64f* pSum);
+QspStatus qspsSum_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pSum);
+QspStatus qspsSum_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pSum);
+QspStatus qspsSum_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pSum);
+
+/* Mean -------------------------------------------------------------------- */
+/*
+ * Mean of the elements: *pMean = (sum of pSrc[i]) / len, the sum formed as in
+ * Sum (with the hint for 32f/32fc) and divided in double. Integer forms scale
+ * by 2^-scaleFactor, saturate and round. _L forms take a 64-bit length.
+ */
+QspStatus qspsMean_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, int scaleFactor);
+QspStatus qspsMean_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pMean, int scaleFactor);
+QspStatus qspsMean_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pMean, int scaleFactor);
+QspStatus qspsMean_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean);
+QspStatus qspsMean_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMean);
+QspStatus qspsMean_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pMean);
+QspStatus qspsMean_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pMean);
+
+/* StdDev ------------------------------------------------------------------ */
+/*
+ * Sample standard deviation: *pStdDev = sqrt((len*Q - S^2) / (len*(len-1))),
+ * S the sum and Q the sum of squares, both in double; a negative numerator is
+ * taken as 0. len below 2 gives qspStsBadSize. 32f: hint 1 selects a fast
+ * kernel. Integer forms scale, saturate and round as Sum.
+ */
+QspStatus qspsStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pStdDev);
+
+/* MeanStdDev -------------------------------------------------------------- */
+/*
+ * Mean and sample standard deviation in one pass (see Mean and StdDev); len
+ * below 2 gives qspStsBadSize. The 32f form always uses the accurate kernel and
+ * ignores its hint.
+ */
+QspStatus qspsMeanStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pMean, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsMeanStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean, Qsp64f* pStdDev);
+
+/* Norm -------------------------------------------------------------------- */
+/*
+ * Vector norms: Inf *pNorm = max |pSrc[i]|; L1 sum of |pSrc[i]|; L2 sqrt(sum of
+ * |pSrc[i]|^2); L2Sqr sum of |pSrc[i]|^2 (complex: magnitudes). Two type codes:
+ * source, then result. 32f L2 accumulates squares in single precision. Sfs
+ * forms scale by 2^-scaleFactor and saturate (Inf_16s32s: truncating shifts).
+ * _L forms take a 64-bit length.
+ */
+QspStatus qspsNorm_Inf_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_Inf_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_32fc32f(const Qsp32fc* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_Inf_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L2_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_32fc64f_L(const Qsp32fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+
+/* NormDiff ---------------------------------------------------------------- */
+/*
+ * Norms of the difference pSrc1[i] - pSrc2[i], as Norm computes them of one
+ * vector; same type set and scaling.
+ */
+QspStatus qspsNormDiff_Inf_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_Inf_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_32fc32f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_Inf_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L2_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+
+/* DotProd ----------------------------------------------------------------- */
+/*
+ * Dot product: *pDp = sum of pSrc1[i] * pSrc2[i], without conjugation. Type
+ * codes: both sources, then the result (16s32f: 16s sources, 32f result;
+ * 32f32fc: a 32f and a 32fc source, 32fc result; 16s32s32s: 16s and 32s
+ * sources, 32s result). 32f accumulates in single precision in six lanes; Sfs
+ * forms scale by 2^-scaleFactor, round and saturate. _L forms take a 64-bit
+ * length.
+ */
+QspStatus qspsDotProd_16s16sc64sc(const Qsp16s* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_16s32s32s_Sfs(const Qsp16s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s64s(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pDp);
+QspStatus qspsDotProd_16sc64sc(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_32f32fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc_L(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f64f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_32f64f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32fc64fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32fc64fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_64f64fc(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f64fc_L(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+
+/* Max --------------------------------------------------------------------- */
+/*
+ * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it
+ * compares greater, so NaN elements follow that rule lane by lane). _L forms
+ * take a 64-bit length.
+ */
+QspStatus qspsMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax);
+QspStatus qspsMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax);
+QspStatus qspsMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax);
+QspStatus qspsMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax);
+QspStatus qspsMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax);
+QspStatus qspsMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax);
+
+/* Min --------------------------------------------------------------------- */
+/*
+ * Smallest element: *pMin = min pSrc[i], the mirror of Max.
+ */
+QspStatus qspsMin_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin);
+QspStatus qspsMin_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin);
+QspStatus qspsMin_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin);
+QspStatus qspsMin_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin);
+QspStatus qspsMin_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin);
+QspStatus qspsMin_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin);
+
+/* MaxIndx ----------------------------------------------------------------- */
+/*
+ * Largest element and the lowest index holding it (ordered comparisons: a NaN
+ * never replaces the best, a NaN at index 0 stays). pIndx may be null; the
+ * call is then Max. _L forms take a 64-bit length and give a 64-bit index.
+ */
+QspStatus qspsMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax, Qsp64s* pIndx);
+QspStatus qspsMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax, Qsp64s* pIndx);
+
+/* MinIndx ----------------------------------------------------------------- */
+/*
+ * Smallest element and the lowest index holding it; the mirror of MaxIndx.
+ */
+QspStatus qspsMinIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pIndx);
+QspStatus qspsMinIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pIndx);
+
+/* MinMax ------------------------------------------------------------------ */
+/*
+ * Smallest and largest element in one pass: *pMin, *pMax.
+ */
+QspStatus qspsMinMax_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, Qsp8u* pMax);
+QspStatus qspsMinMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, Qsp16s* pMax);
+QspStatus qspsMinMax_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, Qsp16u* pMax);
+QspStatus qspsMinMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, Qsp32s* pMax);
+QspStatus qspsMinMax_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, Qsp32u* pMax);
+QspStatus qspsMinMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, Qsp64f* pMax);
+QspStatus qspsMinMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64f* pMax);
+
+/* MinMaxIndx -------------------------------------------------------------- */
+/*
+ * Smallest and largest element with the lowest index of each (an extreme that
+ * is a NaN reports index 0). All four outputs are required.
+ */
+QspStatus qspsMinMaxIndx_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, int* pMinIndx, Qsp8u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pMinIndx, Qsp16s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, int* pMinIndx, Qsp16u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pMinIndx, Qsp32f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pMinIndx, Qsp32f* pMax, Qsp64s* pMaxIndx);
+QspStatus qspsMinMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pMinIndx, Qsp32s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, int* pMinIndx, Qsp32u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pMinIndx, Qsp64f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pMinIndx, Qsp64f* pMax, Qsp64s* pMaxIndx);
+
+/* MaxAbs ------------------------------------------------------------------ */
+/*
+ * Largest magnitude: *pMaxAbs = max |pSrc[i]|. For 16s the magnitude is taken
+ * unsigned, so -32768 is the largest; its value saturates to 32767.
+ */
+QspStatus qspsMaxAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs);
+QspStatus qspsMaxAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs);
+QspStatus qspsMaxAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs);
+QspStatus qspsMaxAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs);
+
+/* MinAbs ------------------------------------------------------------------ */
+/*
+ * Smallest magnitude: *pMinAbs = min |pSrc[i]|.
+ */
+QspStatus qspsMinAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs);
+QspStatus qspsMinAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs);
+QspStatus qspsMinAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs);
+QspStatus qspsMinAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs);
+
+/* MaxAbsIndx -------------------------------------------------------------- */
+/*
+ * Largest magnitude and the lowest index holding it (16s: -32768 is the
+ * largest magnitude). pIndx may be null.
+ */
+QspStatus qspsMaxAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs, Qsp64s* pIndx);
+QspStatus qspsMaxAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs, Qsp64s* pIndx);
+
+/* MinAbsIndx -------------------------------------------------------------- */
+/*
+ * Smallest magnitude and the lowest index holding it. pIndx may be null.
+ */
+QspStatus qspsMinAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs, Qsp64s* pIndx);
+QspStatus qspsMinAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs, Qsp64s* pIndx);
+
+/* MaxEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise maximum of two vectors: pDst[i] = the larger of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMaxEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMaxEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMaxEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMaxEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMaxEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMaxEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MinEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise minimum of two vectors: pDst[i] = the smaller of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMinEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMinEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMinEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMinEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMinEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMinEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMinEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMinEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMinEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMinEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
 /* SortRadix --------------------------------------------------------------- */
 /*
  * In-place radix sorts, ascending or descending, with a work buffer of

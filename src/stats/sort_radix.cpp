@@ -97,8 +97,7 @@ QspStatus sortRadix32(T* pSrcDst, int len, Qsp8u* pBuffer)
 template <class Map, class T>
 QspStatus sortRadix32L(T* pSrcDst, Qsp64s len, Qsp8u* pBuffer)
 {
-    if (QspStatus s = check::length(len)) return s;
-    if (QspStatus s = check::pointers(pSrcDst, pBuffer)) return s;
+    if (QspStatus s = check::vectorsL(len, pSrcDst, pBuffer)) return s;
     ownsSortRadix<Map, radix::Digits32, radix::DigitsWide32>(pSrcDst, len, pBuffer, radix::kHistogramBytes32);
     return qspStsOk;
 }
@@ -114,8 +113,7 @@ QspStatus sortRadix64(T* pSrcDst, int len, Qsp8u* pBuffer, Qsp64s histogramBytes
 template <class Map, class T>
 QspStatus sortRadix64L(T* pSrcDst, Qsp64s len, Qsp8u* pBuffer, Qsp64s histogramBytes)
 {
-    if (QspStatus s = check::length(len)) return s;
-    if (QspStatus s = check::pointers(pSrcDst, pBuffer)) return s;
+    if (QspStatus s = check::vectorsL(len, pSrcDst, pBuffer)) return s;
     ownsSortRadix<Map, radix::Digits64, radix::DigitsWide64>(pSrcDst, len, pBuffer, histogramBytes);
     return qspStsOk;
 }
@@ -156,8 +154,7 @@ QspStatus qspsSortRadixGetBufferSize(int len, QspDataType dataType, int* pBuffer
 
 QspStatus qspsSortRadixGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize)
 {
-    if (QspStatus s = check::length(len)) return s;
-    if (QspStatus s = check::pointers(pBufferSize)) return s;
+    if (QspStatus s = check::vectorsL(len, pBufferSize)) return s;
     BufferShape shape;
     if (!bufferShape(dataType, shape)) {
         *pBufferSize = 0;
