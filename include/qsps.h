@@ -494,6 +494,90 @@ QspStatus qspsSubCRev_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
 
+/* Sqr --------------------------------------------------------------------- */
+/*
+ * Square: pDst[i] = pSrc[i]^2 (complex: the complex square); in place on
+ * pSrcDst. Integer forms scale, round and saturate (Sfs rule).
+ */
+QspStatus qspsSqr_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsSqr_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsSqr_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsSqr_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsSqr_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsSqr_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsSqr_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsSqr_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsSqr_8u_Sfs(const Qsp8u* pSrc, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsSqr_8u_ISfs(Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqr_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSqr_16s_ISfs(Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqr_16u_Sfs(const Qsp16u* pSrc, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsSqr_16u_ISfs(Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqr_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsSqr_16sc_ISfs(Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqr_32f_L(const Qsp32f* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsSqr_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSqr_64f_L(const Qsp64f* pSrc, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsSqr_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
+
+/* Abs --------------------------------------------------------------------- */
+/*
+ * Absolute value: pDst[i] = |pSrc[i]|; in place on pSrcDst. Integer forms
+ * saturate (|-32768| gives 32767 in 16s). _L forms chunk as Add does.
+ */
+QspStatus qspsAbs_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsAbs_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsAbs_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsAbs_32s_I(Qsp32s* pSrcDst, int len);
+QspStatus qspsAbs_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsAbs_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsAbs_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsAbs_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsAbs_32f_L(const Qsp32f* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsAbs_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsAbs_64f_L(const Qsp64f* pSrc, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsAbs_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
+
+/* Conj -------------------------------------------------------------------- */
+/*
+ * Complex conjugate: pDst[i] = conj(pSrc[i]) (the imaginary part negated; in
+ * 16sc, -32768 becomes 32767); in place on pSrcDst. _L forms chunk as Add
+ * does.
+ */
+QspStatus qspsConj_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsConj_16sc_I(Qsp16sc* pSrcDst, int len);
+QspStatus qspsConj_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConj_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConj_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConj_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsConj_32fc_L(const Qsp32fc* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsConj_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsConj_64fc_L(const Qsp64fc* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsConj_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
+/* CplxToReal -------------------------------------------------------------- */
+/*
+ * Splits a complex vector into its parts: pDstRe[i] = re(pSrc[i]), pDstIm[i] =
+ * im(pSrc[i]). _L forms chunk as Add does.
+ */
+QspStatus qspsCplxToReal_16sc(const Qsp16sc* pSrc, Qsp16s* pDstRe, Qsp16s* pDstIm, int len);
+QspStatus qspsCplxToReal_32fc(const Qsp32fc* pSrc, Qsp32f* pDstRe, Qsp32f* pDstIm, int len);
+QspStatus qspsCplxToReal_64fc(const Qsp64fc* pSrc, Qsp64f* pDstRe, Qsp64f* pDstIm, int len);
+QspStatus qspsCplxToReal_32fc_L(const Qsp32fc* pSrc, Qsp32f* pDstRe, Qsp32f* pDstIm, Qsp64s len);
+QspStatus qspsCplxToReal_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDstRe, Qsp64f* pDstIm, Qsp64s len);
+
+/* RealToCplx -------------------------------------------------------------- */
+/*
+ * Joins two real vectors into a complex one: pDst[i] = pSrcRe[i] + i
+ * pSrcIm[i]. Either source may be null; its part is then 0. _L forms chunk as
+ * Add does.
+ */
+QspStatus qspsRealToCplx_16s(const Qsp16s* pSrcRe, const Qsp16s* pSrcIm, Qsp16sc* pDst, int len);
+QspStatus qspsRealToCplx_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32fc* pDst, int len);
+QspStatus qspsRealToCplx_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64fc* pDst, int len);
+QspStatus qspsRealToCplx_32f_L(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsRealToCplx_64f_L(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64fc* pDst, Qsp64s len);
+
 /* Div --------------------------------------------------------------------- */
 /*
  * Element-wise quotient, second source divided by the first: pDst[i] =
