@@ -520,6 +520,33 @@ QspStatus qspsSqr_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
 QspStatus qspsSqr_64f_L(const Qsp64f* pSrc, Qsp64f* pDst, Qsp64s len);
 QspStatus qspsSqr_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
 
+/* Sqrt -------------------------------------------------------------------- */
+/*
+ * Square root: pDst[i] = sqrt(pSrc[i]) (complex: the principal root); in place
+ * on pSrcDst. A negative real element gives a NaN (floating) or 0 (integer)
+ * and the warning qspStsWarnOutOfDomain once the whole output is written.
+ * Integer forms scale, round and saturate (Sfs rule); 32s16s and 64s16s read
+ * wide integers and write 16-bit roots.
+ */
+QspStatus qspsSqrt_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsSqrt_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsSqrt_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsSqrt_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsSqrt_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsSqrt_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsSqrt_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsSqrt_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsSqrt_8u_Sfs(const Qsp8u* pSrc, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsSqrt_8u_ISfs(Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqrt_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSqrt_16s_ISfs(Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqrt_16u_Sfs(const Qsp16u* pSrc, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsSqrt_16u_ISfs(Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqrt_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsSqrt_16sc_ISfs(Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSqrt_32s16s_Sfs(const Qsp32s* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSqrt_64s16s_Sfs(const Qsp64s* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+
 /* Abs --------------------------------------------------------------------- */
 /*
  * Absolute value: pDst[i] = |pSrc[i]|; in place on pSrcDst. Integer forms
