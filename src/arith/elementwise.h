@@ -87,7 +87,8 @@ R widen4(const S* p)
 template <class D>
 constexpr int blockOf = 16 / int(sizeof(D));
 
-// The first n elements of p in a zero-padded block of G.
+// The first n elements of p in a block of G, padded with ones (so that a
+// padding lane never looks like a zero divisor).
 template <class S, int G>
 struct Block {
     S v[G];
@@ -96,7 +97,10 @@ template <int G, class S>
 Block<S, G> gather(const S* p, int n)
 {
     Block<S, G> b{};
-    for (int j = 0; j < n; ++j) b.v[j] = p[j];
+    for (int j = 0; j < G; ++j) {
+        if (j < n) b.v[j] = p[j];
+        else if constexpr (std::is_arithmetic_v<S>) b.v[j] = S(1);
+    }
     return b;
 }
 

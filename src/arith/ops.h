@@ -107,6 +107,21 @@ struct Mul {
     }
 };
 
+// Square of a real element; the result range is that of a product of the
+// value with itself, which is never negative.
+struct Sqr {
+    template <class R>
+    R reg(R a) const { return Mul{}.reg(a, a); }
+    template <class W>
+    W one(W a) const { return W(a * a); }
+    template <class A>
+    static constexpr Range range()
+    {
+        const Qsp64s l = lowest<A> * lowest<A>, h = highest<A> * highest<A>;
+        return {0, l > h ? l : h};
+    }
+};
+
 // Complex product of floating complex elements (registers of interleaved
 // parts): re = ar*br - ai*bi, im = ai*br + ar*bi, each product rounded
 // before the sum, in the element precision.

@@ -53,44 +53,83 @@ D exact(i128 num, i128 den, int scaleFactor)
     return D(q);
 }
 
-template <class T>
-bool anyZero(const T* p, Qsp64s len)
-{
-    for (Qsp64s i = 0; i < len; ++i)
-        if (p[i] == T(0)) return true;
-    return false;
-}
+// The quotients of 8- and 16-bit operands in 32-bit lanes, two per double
+// register: rounded in mode M and clamped to D's range (zero divisors give
+// infinities or NaN, which clamp to the bounds or 0), with the lanes of
+// zero divisors or'ed into *zeros.
+template <int M, class D>
+struct Lanes {
+    using VD = simd::Vec<double>;
+    using V32 = simd::Vec<Qsp32s>;
+    VD::Reg k, lo, hi;
+    V32::Reg* zeros;
+
+    Lanes(int scaleFactor, V32::Reg* z)
+        : k(VD::splat(rounding::scaleOf(scaleFactor))),
+          lo(VD::splat(double(std::numeric_limits<D>::min()))),
+          hi(VD::splat(double(std::numeric_limits<D>::max()))),
+          zeros(z)
+    {
+    }
+    V32::Reg quot(V32::Reg den, V32::Reg num) const
+    {
+        *zeros = V32::bitOr(*zeros, V32::cmpeq(den, V32::zero()));
+        const auto half = [&](V32::Reg d, V32::Reg n) {
+            const VD::Reg q = VD::div(VD::mul(_mm_cvtepi32_pd(n), k), _mm_cvtepi32_pd(d));
+            return rounding::toInt32<M>(q, lo, hi);
+        };
+        return _mm_unpacklo_epi64(half(den, num), half(_mm_srli_si128(den, 8), _mm_srli_si128(num, 8)));
+    }
+};
+
+// The three operand shapes: two vectors, a constant divisor, a constant
+// dividend.
+template <int M, class D>
+struct VecByVec : Lanes<M, D> {
+    using R = typename Lanes<M, D>::V32::Reg;
+    R reg(R den, R num) const { return this->quot(den, num); }
+};
+template <int M, class D>
+struct VecByConst : Lanes<M, D> {
+    using R = typename Lanes<M, D>::V32::Reg;
+    R den;
+    R reg(R num) const { return this->quot(den, num); }
+};
+template <int M, class D>
+struct ConstByVec : Lanes<M, D> {
+    using R = typename Lanes<M, D>::V32::Reg;
+    R num;
+    R reg(R den) const { return this->quot(den, num); }
+};
 
 // pDst[i] = rule(pNum[i] / pDen[i]) for 8- and 16-bit operands and
-// destinations, two quotients per double register. Returns whether any
-// divisor was zero.
+// destinations. Returns whether any divisor was zero.
 template <int M, class S, class D>
 bool ownsDiv_16(const S* pDen, const S* pNum, D* pDst, Qsp64s len, int scaleFactor)
 {
-    using VD = simd::Vec<double>;
-    using V32 = simd::Vec<Qsp32s>;
-    const VD::Reg k = VD::splat(rounding::scaleOf(scaleFactor));
-    const VD::Reg lo = VD::splat(double(std::numeric_limits<D>::min()));
-    const VD::Reg hi = VD::splat(double(std::numeric_limits<D>::max()));
-    V32::Reg zeros = V32::zero();
-    struct Op {
-        VD::Reg k, lo, hi;
-        V32::Reg* zeros;
-        V32::Reg reg(V32::Reg den, V32::Reg num) const
-        {
-            *zeros = V32::bitOr(*zeros, V32::cmpeq(den, V32::zero()));
-            const auto half = [&](V32::Reg d, V32::Reg n) {
-                const VD::Reg q = VD::div(VD::mul(_mm_cvtepi32_pd(n), k), _mm_cvtepi32_pd(d));
-                return rounding::toInt32<M>(q, lo, hi);
-            };
-            return _mm_unpacklo_epi64(half(den, num), half(_mm_srli_si128(den, 8), _mm_srli_si128(num, 8)));
-        }
-    };
+    simd::Vec<Qsp32s>::Reg zeros = simd::Vec<Qsp32s>::zero();
     // The quotients are already rounded and inside D: the lanes only narrow.
-    elementwise::lanes<false>(pDst, len, Op{k, lo, hi, &zeros}, scaling::Plain{}, pDen, pNum);
-    // The mask also sees the zero padding of a tail block, so a set mask is
-    // confirmed on the divisors themselves.
-    return _mm_movemask_epi8(zeros) != 0 && anyZero(pDen, len);
+    elementwise::lanes<false>(pDst, len, VecByVec<M, D>{{scaleFactor, &zeros}}, scaling::Plain{}, pDen, pNum);
+    return _mm_movemask_epi8(zeros) != 0;
+}
+
+// pDst[i] = rule(pNum[i] / den) for a non-zero constant divisor.
+template <int M, class S, class D>
+void ownsDivC_16(const S* pNum, S den, D* pDst, Qsp64s len, int scaleFactor)
+{
+    simd::Vec<Qsp32s>::Reg zeros;
+    elementwise::lanes<false>(pDst, len, VecByConst<M, D>{{scaleFactor, &zeros}, _mm_set1_epi32(den)},
+                              scaling::Plain{}, pNum);
+}
+
+// pDst[i] = rule(num / pDen[i]). Returns whether any divisor was zero.
+template <int M, class S, class D>
+bool ownsDivCRev_16(const S* pDen, S num, D* pDst, Qsp64s len, int scaleFactor)
+{
+    simd::Vec<Qsp32s>::Reg zeros = simd::Vec<Qsp32s>::zero();
+    elementwise::lanes<false>(pDst, len, ConstByVec<M, D>{{scaleFactor, &zeros}, _mm_set1_epi32(num)},
+                              scaling::Plain{}, pDen);
+    return _mm_movemask_epi8(zeros) != 0;
 }
 
 }  // namespace quotient
