@@ -545,8 +545,10 @@ struct SmallOps<double> {
     }
 };
 
+// Everything called here is inlined (flatten), so that the passes of
+// orders 4 and 5 unroll for their fixed length.
 template <class T, bool Inv, int Order, bool Scaled>
-void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
+__attribute__((flatten)) void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
 {
     using O = SmallOps<T>;
     using Val = typename O::Value;
@@ -633,11 +635,16 @@ void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
             }
         }
     } else {
-        // The radix-4 passes with a second buffer on the stack.
+        // Single precision, 16 and 32 points: the first radix-4 pass into a
+        // buffer on the stack, then the last radix-4 or radix-8 pass into the
+        // destination (so src may be dst).
         constexpr Qsp64s n = Qsp64s(1) << Order;
         alignas(16) C<T> buf[n];
-        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(buf, n), Order,
-                              kSmallPass<T, Order>.w);
+        ownsPass4First<T, Inv, true>({src, src + n / 2}, halvesOf(buf, n), n, kSmallPass<T, Order>.w);
+        if constexpr (Order == 4)
+            ownsPass4Last<T, Inv, false, true>({buf, buf + n / 2}, halvesOf(dst, n), n);
+        else
+            ownsPass8Last<T, Inv, false, true>({buf, buf + n / 2}, halvesOf(dst, n), n);
         if constexpr (Scaled)
             for (Qsp64s i = 0; i < n; ++i) O::store(dst + i, O::scale(O::load(dst + i), f));
     }
