@@ -232,6 +232,36 @@ QspStatus qspsCopyBE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int ds
  * rounded to nearest.
  */
 QspStatus qspsMulC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsMulC_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsMulC_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsMulC_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsMulC_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsMulC_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsMulC_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsMulC_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMulC_32f16s_Sfs(const Qsp32f* pSrc, Qsp32f val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMulC_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsMulC_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsMulC_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsMulC_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsMulC_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+QspStatus qspsMulC_32s_Sfs_L(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, Qsp64s len, int scaleFactor);
+QspStatus qspsMulC_32s_ISfs_L(Qsp32s val, Qsp32s* pSrcDst, Qsp64s len, int scaleFactor);
 
 /* Add --------------------------------------------------------------------- */
 /*
@@ -280,6 +310,227 @@ QspStatus qspsAdd_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
 QspStatus qspsAdd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsAdd_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
 
+/* Sub --------------------------------------------------------------------- */
+/*
+ * Element-wise difference, second source minus first: pDst[i] = pSrc2[i] -
+ * pSrc1[i]; in place pSrcDst[i] = pSrcDst[i] - pSrc[i]. Scaling, saturation
+ * and the _L chunking as for Add.
+ */
+QspStatus qspsSub_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsSub_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsSub_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsSub_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsSub_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsSub_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+QspStatus qspsSub_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsSub_32fc_I(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsSub_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int len);
+QspStatus qspsSub_64fc_I(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, int len);
+QspStatus qspsSub_8u_Sfs(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsSub_8u_ISfs(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSub_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSub_16s_ISfs(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSub_16u_Sfs(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsSub_16u_ISfs(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSub_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsSub_32s_ISfs(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSub_16sc_Sfs(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsSub_16sc_ISfs(const Qsp16sc* pSrc, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSub_32sc_Sfs(const Qsp32sc* pSrc1, const Qsp32sc* pSrc2, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsSub_32sc_ISfs(const Qsp32sc* pSrc, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSub_32f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsSub_32f_I_L(const Qsp32f* pSrc, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSub_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsSub_64f_I_L(const Qsp64f* pSrc, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsSub_32fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsSub_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsSub_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsSub_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
+
+/* Mul --------------------------------------------------------------------- */
+/*
+ * Element-wise product: pDst[i] = pSrc1[i] * pSrc2[i]; in place pSrcDst[i] *=
+ * pSrc[i]. Complex operands use the complex product. Mixed forms: 32f32fc
+ * multiplies a complex vector (second source, or pSrcDst) by a real one;
+ * 16u16s and 16s32s widen. Integer forms round and saturate as Add does; the
+ * exact product of two 16s values lies in [-1073709056, 1073741824].
+ */
+QspStatus qspsMul_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMul_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMul_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMul_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+QspStatus qspsMul_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsMul_32fc_I(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsMul_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int len);
+QspStatus qspsMul_64fc_I(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, int len);
+QspStatus qspsMul_32f32fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsMul_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMul_8u16u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMul_32f32fc_I(const Qsp32f* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsMul_8u_Sfs(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsMul_8u_ISfs(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16s_ISfs(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_16u_Sfs(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16u_ISfs(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32s_ISfs(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_16sc_Sfs(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16sc_ISfs(const Qsp16sc* pSrc, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_32sc_Sfs(const Qsp32sc* pSrc1, const Qsp32sc* pSrc2, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32sc_ISfs(const Qsp32sc* pSrc, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsMul_32f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsMul_32f_I_L(const Qsp32f* pSrc, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsMul_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsMul_64f_I_L(const Qsp64f* pSrc, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsMul_32fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsMul_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsMul_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsMul_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
+QspStatus qspsMul_16u16s_Sfs(const Qsp16u* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32s32sc_Sfs(const Qsp32s* pSrc1, const Qsp32sc* pSrc2, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsMul_32s32sc_ISfs(const Qsp32s* pSrc, Qsp32sc* pSrcDst, int len, int scaleFactor);
+
+/* AddC -------------------------------------------------------------------- */
+/*
+ * Adds a constant: pDst[i] = pSrc[i] + val; in place pSrcDst[i] += val.
+ * Scaling, saturation and the _L chunking as for Add.
+ */
+QspStatus qspsAddC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsAddC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsAddC_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsAddC_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsAddC_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsAddC_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsAddC_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsAddC_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsAddC_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsAddC_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddC_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsAddC_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsAddC_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsAddC_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsAddC_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsAddC_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsAddC_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsAddC_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+
+/* SubC -------------------------------------------------------------------- */
+/*
+ * Subtracts a constant: pDst[i] = pSrc[i] - val; in place pSrcDst[i] -= val.
+ * Scaling, saturation and the _L chunking as for Add.
+ */
+QspStatus qspsSubC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsSubC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsSubC_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsSubC_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsSubC_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsSubC_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsSubC_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsSubC_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsSubC_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubC_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubC_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsSubC_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSubC_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsSubC_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsSubC_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsSubC_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsSubC_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsSubC_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+
+/* SubCRev ----------------------------------------------------------------- */
+/*
+ * Subtracts from a constant: pDst[i] = val - pSrc[i]; in place pSrcDst[i] =
+ * val - pSrcDst[i]. Scaling, saturation and the _L chunking as for Add.
+ */
+QspStatus qspsSubCRev_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
+QspStatus qspsSubCRev_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
+QspStatus qspsSubCRev_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len);
+QspStatus qspsSubCRev_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len);
+QspStatus qspsSubCRev_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len);
+QspStatus qspsSubCRev_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len);
+QspStatus qspsSubCRev_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len);
+QspStatus qspsSubCRev_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len);
+QspStatus qspsSubCRev_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_8u_ISfs(Qsp8u val, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16s_Sfs(const Qsp16s* pSrc, Qsp16s val, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16s_ISfs(Qsp16s val, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16u_Sfs(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16u_ISfs(Qsp16u val, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32s_Sfs(const Qsp32s* pSrc, Qsp32s val, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32s_ISfs(Qsp32s val, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc val, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_16sc_ISfs(Qsp16sc val, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc val, Qsp32sc* pDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32sc_ISfs(Qsp32sc val, Qsp32sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsSubCRev_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsSubCRev_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSubCRev_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsSubCRev_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsSubCRev_32fc_L(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsSubCRev_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsSubCRev_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
+
+/* Div --------------------------------------------------------------------- */
+/*
+ * Element-wise quotient, second source divided by the first: pDst[i] =
+ * pSrc2[i] / pSrc1[i]; in place pSrcDst[i] = pSrcDst[i] / pSrc[i]. When any
+ * divisor element compares equal to zero the whole output is still written and
+ * the warning qspStsWarnDivByZero is returned; integer quotients by zero are the
+ * type's maximum for a positive dividend, its minimum for a negative one and 0
+ * for 0. Integer forms scale, round to nearest even and saturate. _L forms
+ * chunk as Add does.
+ */
+QspStatus qspsDiv_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsDiv_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsDiv_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsDiv_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+QspStatus qspsDiv_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int len);
+QspStatus qspsDiv_32fc_I(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, int len);
+QspStatus qspsDiv_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int len);
+QspStatus qspsDiv_64fc_I(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, int len);
+QspStatus qspsDiv_8u_Sfs(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_8u_ISfs(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_16s_ISfs(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_16u_Sfs(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_16u_ISfs(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_32s_ISfs(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_16sc_Sfs(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, Qsp16sc* pDst, int len, int scaleFactor);
+QspStatus qspsDiv_16sc_ISfs(const Qsp16sc* pSrc, Qsp16sc* pSrcDst, int len, int scaleFactor);
+QspStatus qspsDiv_32f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsDiv_32f_I_L(const Qsp32f* pSrc, Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsDiv_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, Qsp64s len);
+QspStatus qspsDiv_64f_I_L(const Qsp64f* pSrc, Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsDiv_32fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsDiv_32fc_I_L(const Qsp32fc* pSrc, Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsDiv_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsDiv_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
+
 /* FFTGetSize -------------------------------------------------------------- */
 /*
  * Sizes, in bytes, that a power-of-two FFT of length N = 2^order needs:
@@ -291,20 +542,6 @@ QspStatus qspsAdd_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
  * (split parts) 0..28; R_32f 0..29; C_64fc, C_64f 0..27; R_64f 0..28; other
  * orders give qspStsBadFftOrder. Every size includes 64 bytes of slack per
  * non-empty block, so the blocks need no alignment.
- * Checks: order 31 or above, then the three pointers, then the flag, then the
- * kind's maximum order (C_16fc: the pointers, then orders above 30, then as
- * C_32fc). Complex single precision: orders 0..5 need 208 bytes of record and
- * no buffers; orders 6..17 a record of r64(8N+71) + r64(N+67) + 256 bytes, a
- * work buffer of r64(8N+63) + 64 and, from order 11, an Init buffer of
- * r64(N+67) + 64 (r64(x) = x rounded down to a multiple of 64); from order 18
- * the blocked layout (record (4 << (order-12)) + 4160 bytes larger from order
- * 19, work at least 65536 + 64). Split kinds report what the interleaved kinds
- * do; C_16fc adds 8N to the work buffer (a single-precision copy of the data)
- * and 20 to the record. Complex double precision: r64(16N+79) + r64(N+67) +
- * 256, work r64(16N+63) + 64, Init buffer r64(2N+71) + 64, blocked from order
- * 17. R_32f: the complex sizes of order-1 plus two recombination tables. Sizes
- * are formed in 64 bits and stored as int: the C_32fc record and work sizes of
- * order 28 exceed the int range and wrap as 32-bit arithmetic does. Thread-safe.
  */
 QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 QspStatus qspsFFTGetSize_C_32fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
@@ -324,17 +561,6 @@ QspStatus qspsFFTGetSize_R_64f(int order, int flag, QspHintAlgorithm hint, int* 
  * qspStsBadRecord). Init of C_16fc switches the processor to flush-to-zero and
  * denormals-are-zero and leaves them so. Records are read-only afterwards and
  * may be shared by threads; there is no release call.
- * Checks: null ppFFTSpec, order above the kind's maximum (unsigned, so negative
- * orders fail too), null pSpec, all before anything is written; then the
- * record header is cleared, the flag decoded (a bad flag leaves identifier 0)
- * and, from order 11, a null pSpecBuffer gives qspStsNullPtr (identifier 0).
- * The normalisation factor is 1.0f/(float)N and (float)(1.0/sqrt(N)) in single
- * precision, 1.0/N and 1.0/sqrt(N) in double. Twiddles are cos and sin of
- * 2 pi j / N from the library's own sine and cosine, taken from one octant by
- * exact symmetry (correctly rounded values, never built by repeated
- * multiplication); orders up to 10 read a built-in table, larger ones build
- * the octant in pSpecBuffer. Nothing is allocated and the record never points
- * outside pSpec.
  */
 QspStatus qspsFFTInit_C_16fc(QspsFFTSpec_C_16fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
 QspStatus qspsFFTInit_C_32fc(QspsFFTSpec_C_32fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
@@ -354,21 +580,6 @@ QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, 
  * flag says. _I forms transform in place (for RToCCS the array holds N+2
  * values). Checks: null record, then the record's kind (qspStsBadRecord), then
  * the data pointers, then a null pBuffer while the record needs one.
- * pBuffer may be null whenever the record's work size is 0 (complex orders
- * 0..5, real orders 0..6, and C_16fc up to order 5, whose data copy then fits
- * on the stack); a buffer given where none is needed is not touched. Source
- * and destination may be the same array (that is what the _I forms do); any
- * other overlap is not allowed. In-place and out-of-place results are
- * bit-identical. Packed layouts for N values, X[k] = R_k + i I_k:
- *   Pack  R0, R1, I1, ..., R(N/2-1), I(N/2-1), R(N/2)
- *   Perm  R0, R(N/2), R1, I1, ..., R(N/2-1), I(N/2-1)
- *   CCS   R0, 0, R1, I1, ..., R(N/2-1), I(N/2-1), R(N/2), 0   (N+2 values)
- * N = 1: R0 (CCS: R0, 0); N = 2: Pack and Perm are R0, R1. Accuracy against
- * the exact transform: relative RMS error below 2e-7 sqrt(log2 N) in single
- * and 4e-16 sqrt(log2 N) in double precision. C_16fc converts to single
- * precision in the work buffer, transforms there and rounds back to half
- * precision (ties to even). A record and its tables are only read, so several
- * threads may use one record at once with a work buffer each.
  */
 QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
@@ -398,9 +609,6 @@ QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFT
  * of FFTFwd up to the normalisation the record's flag chooses (flag 2 divides
  * the inverse by N, 4 by sqrt(N)). PackToR, PermToR, CCSToR read a packed half
  * spectrum and write N real values. Arguments and checks as in FFTFwd.
- * The inverse real transforms read the packed values and ignore the stored
- * zeros of CCS (its elements 1 and N+1); the _I forms of CCSToR need N+2
- * values in the array. Buffers, aliasing, accuracy and threads as in FFTFwd.
  */
 QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
@@ -429,10 +637,6 @@ QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFT
  * Multiplies two half spectra in Pack layout bin by bin: pSrcDst = pSrc *
  * pSrcDst, where element 0 (and, for even len, element len-1) are real and the
  * pairs in between complex. len is the packed length (N values).
- * Odd len: element 0 real, then (len-1)/2 pairs. Each product is formed in the
- * element type ((a_r b_r - a_i b_i), (a_r b_i + a_i b_r)). Checks: pointers,
- * then len < 1 (qspStsBadSize); nothing is written on error. pSrc must not
- * overlap pSrcDst. Thread-safe.
  */
 QspStatus qspsMulPack_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
 QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
@@ -441,8 +645,6 @@ QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
 /*
  * As MulPack, with the in-place operand conjugated: pSrcDst = pSrc *
  * conj(pSrcDst), bin by bin, in Pack layout.
- * A pair becomes a_r b_r + a_i b_i + i (a_i b_r - a_r b_i), a = pSrc,
- * b = pSrcDst. Checks, aliasing and threads as in MulPack.
  */
 QspStatus qspsMulPackConj_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
 QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
@@ -452,9 +654,6 @@ QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
  * Multiplies two half spectra in Perm layout bin by bin: pDst = pSrc1 * pSrc2,
  * or in place pSrcDst = pSrc * pSrcDst. Element 0 and, for even len, element 1
  * are real; the complex pairs follow. len is the packed length (N values).
- * Odd len is laid out as Pack (element 0 real, pairs from element 1), so
- * MulPerm and MulPack agree there. pDst may be pSrc1 or pSrc2 (the _I form is
- * the out-of-place one with pDst = pSrc2). Checks as in MulPack. Thread-safe.
  */
 QspStatus qspsMulPerm_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
 QspStatus qspsMulPerm_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
@@ -468,8 +667,6 @@ QspStatus qspsMulPerm_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
  * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
  * values from the start of pSrcDst and writes the len complex values over them
  * (the array holds len complex values).
- * Even len: X[0] = (R0, 0), X[len/2] = (R(len/2), 0) from element 1; odd len
- * as Pack. Checks: pointers, then len < 1. Thread-safe.
  */
 QspStatus qspsConjPerm_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjPerm_32fc_I(Qsp32fc* pSrcDst, int len);
@@ -484,9 +681,6 @@ QspStatus qspsConjPerm_64fc_I(Qsp64fc* pSrcDst, int len);
  * values from the start of pSrcDst and writes the len complex values over them
  * (the array holds len complex values). _L forms take a 64-bit length
  * and run in one pass.
- * The _L forms check the 64-bit length before the pointers; a packed value
- * is read before its place in the output is written, so the in-place forms
- * need no extra room. Thread-safe.
  */
 QspStatus qspsConjPack_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjPack_32fc_I(Qsp32fc* pSrcDst, int len);
@@ -505,9 +699,6 @@ QspStatus qspsConjPack_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
  * values from the start of pSrcDst and writes the len complex values over them
  * (the array holds len complex values). _L forms take a 64-bit length
  * and run in one pass.
- * CCS holds len/2 + 1 complex bins (len + 2 values for even len, len + 1 for
- * odd); the stored values of bin 0 (and bin len/2) are copied as they are.
- * The _L forms check the 64-bit length before the pointers. Thread-safe.
  */
 QspStatus qspsConjCcs_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjCcs_32fc_I(Qsp32fc* pSrcDst, int len);
@@ -517,6 +708,366 @@ QspStatus qspsConjCcs_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
 QspStatus qspsConjCcs_64fc_I(Qsp64fc* pSrcDst, int len);
 QspStatus qspsConjCcs_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
+/* Sum --------------------------------------------------------------------- */
+/*
+ * Sum of the elements: *pSum = sum of pSrc[i]. 32f/32fc accumulate by the hint
+ * (1 fast: single-precision blocks widened to double; else accurate: every
+ * element widened to double) and round the double total to single precision.
+ * 64f/64fc add in double. 16s32s and 16sc32sc sum exactly, scale by
+ * 2^-scaleFactor, saturate to 32 bits and round; 16s/16sc then saturate to 16
+ * bits; 32s sums in 64 bits. _L forms take a 64-bit length.
+ */
+QspStatus qspsSum_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pSum, int scaleFactor);
+QspStatus qspsSum_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pSum, int scaleFactor);
+QspStatus qspsSum_16sc32sc_Sfs(const Qsp16sc* pSrc, int len, Qsp32sc* pSum, int scaleFactor);
+QspStatus qspsSum_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_32f(const Qsp32f* pSrc, int len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_64f(const Qsp64f* pSrc, int len, Qsp64f* pSum);
+QspStatus qspsSum_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pSum);
+QspStatus qspsSum_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pSum);
+QspStatus qspsSum_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pSum);
+
+/* Mean -------------------------------------------------------------------- */
+/*
+ * Mean of the elements: *pMean = (sum of pSrc[i]) / len, the sum formed as in
+ * Sum (with the hint for 32f/32fc) and divided in double. Integer forms scale
+ * by 2^-scaleFactor, saturate and round. _L forms take a 64-bit length.
+ */
+QspStatus qspsMean_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, int scaleFactor);
+QspStatus qspsMean_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pMean, int scaleFactor);
+QspStatus qspsMean_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pMean, int scaleFactor);
+QspStatus qspsMean_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean);
+QspStatus qspsMean_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMean);
+QspStatus qspsMean_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pMean);
+QspStatus qspsMean_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pMean);
+
+/* StdDev ------------------------------------------------------------------ */
+/*
+ * Sample standard deviation: *pStdDev = sqrt((len*Q - S^2) / (len*(len-1))),
+ * S the sum and Q the sum of squares, both in double; a negative numerator is
+ * taken as 0. len below 2 gives qspStsBadSize. 32f: hint 1 selects a fast
+ * kernel. Integer forms scale, saturate and round as Sum.
+ */
+QspStatus qspsStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pStdDev);
+
+/* MeanStdDev -------------------------------------------------------------- */
+/*
+ * Mean and sample standard deviation in one pass (see Mean and StdDev); len
+ * below 2 gives qspStsBadSize. The 32f form always uses the accurate kernel and
+ * ignores its hint.
+ */
+QspStatus qspsMeanStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pMean, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsMeanStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean, Qsp64f* pStdDev);
+
+/* Norm -------------------------------------------------------------------- */
+/*
+ * Vector norms: Inf *pNorm = max |pSrc[i]|; L1 sum of |pSrc[i]|; L2 sqrt(sum of
+ * |pSrc[i]|^2); L2Sqr sum of |pSrc[i]|^2 (complex: magnitudes). Two type codes:
+ * source, then result. 32f L2 accumulates squares in single precision. Sfs
+ * forms scale by 2^-scaleFactor and saturate (Inf_16s32s: truncating shifts).
+ * _L forms take a 64-bit length.
+ */
+QspStatus qspsNorm_Inf_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_Inf_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_32fc32f(const Qsp32fc* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_Inf_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L2_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_32fc64f_L(const Qsp32fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+
+/* NormDiff ---------------------------------------------------------------- */
+/*
+ * Norms of the difference pSrc1[i] - pSrc2[i], as Norm computes them of one
+ * vector; same type set and scaling.
+ */
+QspStatus qspsNormDiff_Inf_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_Inf_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_32fc32f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_Inf_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L2_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+
+/* DotProd ----------------------------------------------------------------- */
+/*
+ * Dot product: *pDp = sum of pSrc1[i] * pSrc2[i], without conjugation. Type
+ * codes: both sources, then the result (16s32f: 16s sources, 32f result;
+ * 32f32fc: a 32f and a 32fc source, 32fc result; 16s32s32s: 16s and 32s
+ * sources, 32s result). 32f accumulates in single precision in six lanes; Sfs
+ * forms scale by 2^-scaleFactor, round and saturate. _L forms take a 64-bit
+ * length.
+ */
+QspStatus qspsDotProd_16s16sc64sc(const Qsp16s* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_16s32s32s_Sfs(const Qsp16s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s64s(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pDp);
+QspStatus qspsDotProd_16sc64sc(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_32f32fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc_L(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f64f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_32f64f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32fc64fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32fc64fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_64f64fc(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f64fc_L(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+
+/* Max --------------------------------------------------------------------- */
+/*
+ * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it
+ * compares greater, so NaN elements follow that rule lane by lane). _L forms
+ * take a 64-bit length.
+ */
+QspStatus qspsMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax);
+QspStatus qspsMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax);
+QspStatus qspsMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax);
+QspStatus qspsMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax);
+QspStatus qspsMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax);
+QspStatus qspsMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax);
+
+/* Min --------------------------------------------------------------------- */
+/*
+ * Smallest element: *pMin = min pSrc[i], the mirror of Max.
+ */
+QspStatus qspsMin_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin);
+QspStatus qspsMin_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin);
+QspStatus qspsMin_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin);
+QspStatus qspsMin_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin);
+QspStatus qspsMin_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin);
+QspStatus qspsMin_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin);
+
+/* MaxIndx ----------------------------------------------------------------- */
+/*
+ * Largest element and the lowest index holding it (ordered comparisons: a NaN
+ * never replaces the best, a NaN at index 0 stays). pIndx may be null; the
+ * call is then Max. _L forms take a 64-bit length and give a 64-bit index.
+ */
+QspStatus qspsMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax, Qsp64s* pIndx);
+QspStatus qspsMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax, Qsp64s* pIndx);
+
+/* MinIndx ----------------------------------------------------------------- */
+/*
+ * Smallest element and the lowest index holding it; the mirror of MaxIndx.
+ */
+QspStatus qspsMinIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pIndx);
+QspStatus qspsMinIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pIndx);
+
+/* MinMax ------------------------------------------------------------------ */
+/*
+ * Smallest and largest element in one pass: *pMin, *pMax.
+ */
+QspStatus qspsMinMax_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, Qsp8u* pMax);
+QspStatus qspsMinMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, Qsp16s* pMax);
+QspStatus qspsMinMax_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, Qsp16u* pMax);
+QspStatus qspsMinMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, Qsp32s* pMax);
+QspStatus qspsMinMax_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, Qsp32u* pMax);
+QspStatus qspsMinMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, Qsp64f* pMax);
+QspStatus qspsMinMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64f* pMax);
+
+/* MinMaxIndx -------------------------------------------------------------- */
+/*
+ * Smallest and largest element with the lowest index of each (an extreme that
+ * is a NaN reports index 0). All four outputs are required.
+ */
+QspStatus qspsMinMaxIndx_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, int* pMinIndx, Qsp8u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pMinIndx, Qsp16s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, int* pMinIndx, Qsp16u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pMinIndx, Qsp32f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pMinIndx, Qsp32f* pMax, Qsp64s* pMaxIndx);
+QspStatus qspsMinMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pMinIndx, Qsp32s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, int* pMinIndx, Qsp32u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pMinIndx, Qsp64f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pMinIndx, Qsp64f* pMax, Qsp64s* pMaxIndx);
+
+/* MaxAbs ------------------------------------------------------------------ */
+/*
+ * Largest magnitude: *pMaxAbs = max |pSrc[i]|. For 16s the magnitude is taken
+ * unsigned, so -32768 is the largest; its value saturates to 32767.
+ */
+QspStatus qspsMaxAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs);
+QspStatus qspsMaxAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs);
+QspStatus qspsMaxAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs);
+QspStatus qspsMaxAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs);
+
+/* MinAbs ------------------------------------------------------------------ */
+/*
+ * Smallest magnitude: *pMinAbs = min |pSrc[i]|.
+ */
+QspStatus qspsMinAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs);
+QspStatus qspsMinAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs);
+QspStatus qspsMinAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs);
+QspStatus qspsMinAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs);
+
+/* MaxAbsIndx -------------------------------------------------------------- */
+/*
+ * Largest magnitude and the lowest index holding it (16s: -32768 is the
+ * largest magnitude). pIndx may be null.
+ */
+QspStatus qspsMaxAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs, Qsp64s* pIndx);
+QspStatus qspsMaxAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs, Qsp64s* pIndx);
+
+/* MinAbsIndx -------------------------------------------------------------- */
+/*
+ * Smallest magnitude and the lowest index holding it. pIndx may be null.
+ */
+QspStatus qspsMinAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs, Qsp64s* pIndx);
+QspStatus qspsMinAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs, Qsp64s* pIndx);
+
+/* MaxEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise maximum of two vectors: pDst[i] = the larger of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMaxEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMaxEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMaxEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMaxEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMaxEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMaxEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MinEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise minimum of two vectors: pDst[i] = the smaller of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMinEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMinEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMinEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMinEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMinEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMinEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMinEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMinEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMinEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMinEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* SortRadix --------------------------------------------------------------- */
+/*
+ * In-place radix sorts, ascending or descending, with a work buffer of
+ * qspsSortRadixGetBufferSize(len, type) bytes (no alignment needed; the
+ * sort overwrites it). The size query takes a data-type code: qsp8u (len +
+ * 1024 bytes), qsp16u or qsp16s (2*len + 2048), qsp32u, qsp32s or qsp32f
+ * (4*len + 20480), qsp64u or qsp64s (8*len + 81920), qsp64f (8*len +
+ * 40960); any other code writes 0 and returns qspStsBadDataType. A size
+ * that does not fit the result type gives qspStsOverflow (_L: 2^63 or
+ * more) and writes nothing. Checks: size pointer, then len below 1.
+ * Sorts: pSrcDst or pBuffer null gives qspStsNullPtr, len below 1
+ * qspStsBadSize; _L forms take a 64-bit len and check it first.
+ * Order: integers by value. Floating values by the total order of their
+ * bit patterns: -NaN < -Inf < ... < -0.0 < +0.0 < ... < +Inf < +NaN (NaNs
+ * among themselves by payload); descending is the exact reverse. Bytes are
+ * sorted by counting; wider types by stable radix passes of 8 bits
+ * (16-bit), 11+11+10 bits (32-bit) or 4x11+2x10 bits (64-bit).
+ * Thread-safe when no two calls share a vector or buffer.
+ */
+QspStatus qspsSortRadixGetBufferSize(int len, QspDataType dataType, int* pBufferSize);
+QspStatus qspsSortRadixGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize);
+QspStatus qspsSortRadixAscend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
 
 #ifdef __cplusplus
 }

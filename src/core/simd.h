@@ -37,6 +37,10 @@ inline void storeOne(T* p, const T& x)
     __builtin_memcpy(p, &x, sizeof(T));
 }
 
+// Asks for the cache line holding p ahead of its use. Only a hint: it never
+// faults, whatever the address.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+
 // Operations on the raw 128 bits, shared by all integer element types.
 struct IntRegOps {
     using Reg = __m128i;
@@ -60,6 +64,11 @@ struct Vec<Qsp8u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
     }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu8(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu8(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi8(a, b); }
+    // One bit per lane: the top bit of each lane.
+    static int anyMask(Reg a) { return _mm_movemask_epi8(a); }
 };
 
 template <>
@@ -70,6 +79,11 @@ struct Vec<Qsp16u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1));
     }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu16(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu16(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
+    // One bit per lane of a comparison result (all-ones or all-zero lanes).
+    static int anyMask(Reg a) { return _mm_movemask_epi8(_mm_packs_epi16(a, _mm_setzero_si128())); }
 };
 
 template <>
@@ -77,6 +91,10 @@ struct Vec<Qsp32u> : IntRegOps {
     static constexpr int lanes = 4;
     static Reg splat(Qsp32u x) { return _mm_set1_epi32(static_cast<int>(x)); }
     static Reg reverse(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(0, 1, 2, 3)); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu32(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu32(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
+    static int anyMask(Reg a) { return _mm_movemask_ps(_mm_castsi128_ps(a)); }
 };
 
 template <>
@@ -131,6 +149,8 @@ struct Vec<float> {
     {
         return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)));
     }
+    // One 8-byte pair alone in the low half, the high half zero.
+    static Reg loadPair(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
     static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
     static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
     // Split and join of complex pairs: evens/odds take the real/imaginary
@@ -183,7 +203,26 @@ struct Vec<double> {
     static Reg odds(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
     static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
     static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
+    // Lanes 0, 1 or lanes 2, 3 of a register of floats, widened exactly.
+    static Reg widenLow(__m128 f) { return _mm_cvtps_pd(f); }
+    static Reg widenHigh(__m128 f) { return _mm_cvtps_pd(_mm_movehl_ps(f, f)); }
 };
+
+// Scalar conversions and roots done by the processor's instructions (no
+// library calls): x to a 32-bit integer under the current rounding mode;
+// x rounded to the nearest integer, ties to even, whatever the mode; the
+// correctly rounded square root.
+inline Qsp32s toInt32Current(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+inline double roundEven(double x)
+{
+    const __m128d v = _mm_set_sd(x);
+    return _mm_cvtsd_f64(_mm_round_sd(v, v, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
+}
+// A float widened to double by the instruction itself: a value rounded to
+// single precision and widened again stays rounded (a plain conversion
+// pair may be folded away by the vectorizer).
+inline double widenOne(float x) { return _mm_cvtsd_f64(_mm_cvtss_sd(_mm_setzero_pd(), _mm_set_ss(x))); }
+inline double sqrtOne(double x) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(x))); }
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit
 // integer): one per register.
@@ -229,6 +268,19 @@ struct Vec<Qsp16s> : IntRegOps {
     // Two registers of 32-bit lanes narrowed to 16-bit lanes with signed
     // saturation (a first).
     static Reg packs32(Reg a, Reg b) { return _mm_packs_epi32(a, b); }
+    // Sums of the products of adjacent lane pairs, in 32-bit lanes.
+    static Reg madd(Reg a, Reg b) { return _mm_madd_epi16(a, b); }
+    // Full 32-bit products of lanes 0..3 and 4..7.
+    static Reg mulWideLo(Reg a, Reg b) { return _mm_unpacklo_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
+    static Reg mulWideHi(Reg a, Reg b) { return _mm_unpackhi_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
+    // Lanes exchanged within each pair (the parts of complex elements).
+    static Reg swapPairs(Reg a) { return _mm_shufflehi_epi16(_mm_shufflelo_epi16(a, 0xB1), 0xB1); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi16(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi16(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
+    static int anyMask(Reg a) { return Vec<Qsp16u>::anyMask(a); }
+    // Magnitudes as unsigned lanes: -32768 keeps its pattern, 32768.
+    static Reg abs(Reg a) { return _mm_abs_epi16(a); }
 };
 
 template <>
@@ -245,6 +297,10 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg max(Reg a, Reg b) { return _mm_max_epi32(a, b); }
     static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi32(a, b); }
     static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
+    static int anyMask(Reg a) { return Vec<Qsp32u>::anyMask(a); }
+    // Magnitudes as unsigned lanes: the most negative value keeps its
+    // pattern, 2^31.
+    static Reg abs(Reg a) { return _mm_abs_epi32(a); }
     // a with the sign of b applied: a, -a or 0 as b is positive, negative, 0.
     static Reg sign(Reg a, Reg b) { return _mm_sign_epi32(a, b); }
     // Shift counts held in the low 64 bits of a register (see count()).
@@ -253,6 +309,11 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg sll(Reg a, Reg n) { return _mm_sll_epi32(a, n); }
     static Reg srl(Reg a, Reg n) { return _mm_srl_epi32(a, n); }
     static Reg srai1(Reg a) { return _mm_srai_epi32(a, 1); }
+    // Differences of adjacent lane pairs: a0-a1, a2-a3, b0-b1, b2-b3.
+    static Reg hsub(Reg a, Reg b) { return _mm_hsub_epi32(a, b); }
+    static Reg hadd(Reg a, Reg b) { return _mm_hadd_epi32(a, b); }
+    static Reg interleaveLo(Reg a, Reg b) { return _mm_unpacklo_epi32(a, b); }
+    static Reg interleaveHi(Reg a, Reg b) { return _mm_unpackhi_epi32(a, b); }
     // Widening of the low or high half of a register of 16-bit lanes.
     static Reg lo16s(Reg a) { return _mm_cvtepi16_epi32(a); }
     static Reg hi16s(Reg a) { return _mm_cvtepi16_epi32(_mm_srli_si128(a, 8)); }

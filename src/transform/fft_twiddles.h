@@ -151,7 +151,10 @@ inline constexpr BuiltinAs<T> kBuiltinAs = makeBuiltinAs<T>();
 template <class T>
 inline Octant<T> builtinOctant(int order)
 {
-    return {kBuiltinAs<T>.v, order >= 3 ? (Qsp64s(1) << (kBuiltinOrder - order)) : 0, order};
+    // Above the built-in order the record carries a table of its own, and
+    // the stride here is never used.
+    const bool strided = order >= 3 && order <= kBuiltinOrder;
+    return {kBuiltinAs<T>.v, strided ? (Qsp64s(1) << (kBuiltinOrder - order)) : 0, order};
 }
 
 }  // namespace fft

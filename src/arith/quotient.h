@@ -1,0 +1,96 @@
+// Integer quotients under the scale-factor rule: num / den * 2^-scaleFactor
+// rounded in one of the three rounding modes (toward zero, to nearest even,
+// to nearest with ties away from zero) and saturated. A zero divisor gives
+// the destination's maximum for a positive dividend, its minimum for a
+// negative one and 0 for 0.
+//
+// Two implementations: exact 128-bit integer arithmetic for any operand
+// width, and a vector kernel in double precision for 8- and 16-bit
+// operands, where the double quotient is close enough to the exact one
+// that rounding it gives the same integer (a non-tie quotient whose result
+// does not saturate lies at least 2^-32 of its value away from every
+// integer and half-integer; the double quotient errs by at most 2^-53).
+#pragma once
+#include <limits>
+
+#include "elementwise.h"
+#include "rounding.h"
+
+namespace quotient {
+
+using i128 = __int128;
+
+// Scale factors beyond +-80 give the same results as +-80 for operands of
+// up to 32 bits: every quotient then rounds to 0 or saturates.
+constexpr int clampScale(int s) { return s > 80 ? 80 : s < -80 ? -80 : s; }
+
+template <class D>
+D boundOf(i128 num)
+{
+    using L = std::numeric_limits<D>;
+    return num > 0 ? L::max() : num < 0 ? L::min() : D(0);
+}
+
+// The rule for num / den exactly (rounding mode M).
+template <int M, class D>
+D exact(i128 num, i128 den, int scaleFactor)
+{
+    if (den == 0) return boundOf<D>(num);
+    const int s = clampScale(scaleFactor);
+    if (s >= 0) den <<= s;
+    else num <<= -s;
+    if (den < 0) num = -num, den = -den;
+    i128 q = num / den, r = num % den;  // truncated toward zero
+    if (r < 0) r = -r;
+    if (M != rounding::kZero) {
+        const i128 twice = 2 * r;
+        const bool up = twice > den || (twice == den && (M == rounding::kAway || (q & 1) != 0));
+        if (up) q += num < 0 ? -1 : 1;
+    }
+    using L = std::numeric_limits<D>;
+    if (q > i128(L::max())) return L::max();
+    if (q < i128(L::min())) return L::min();
+    return D(q);
+}
+
+template <class T>
+bool anyZero(const T* p, Qsp64s len)
+{
+    for (Qsp64s i = 0; i < len; ++i)
+        if (p[i] == T(0)) return true;
+    return false;
+}
+
+// pDst[i] = rule(pNum[i] / pDen[i]) for 8- and 16-bit operands and
+// destinations, two quotients per double register. Returns whether any
+// divisor was zero.
+template <int M, class S, class D>
+bool ownsDiv_16(const S* pDen, const S* pNum, D* pDst, Qsp64s len, int scaleFactor)
+{
+    using VD = simd::Vec<double>;
+    using V32 = simd::Vec<Qsp32s>;
+    const VD::Reg k = VD::splat(rounding::scaleOf(scaleFactor));
+    const VD::Reg lo = VD::splat(double(std::numeric_limits<D>::min()));
+    const VD::Reg hi = VD::splat(double(std::numeric_limits<D>::max()));
+    V32::Reg zeros = V32::zero();
+    struct Op {
+        VD::Reg k, lo, hi;
+        V32::Reg* zeros;
+        V32::Reg reg(V32::Reg den, V32::Reg num) const
+        {
+            *zeros = V32::bitOr(*zeros, V32::cmpeq(den, V32::zero()));
+            const auto half = [&](V32::Reg d, V32::Reg n) {
+                const VD::Reg q = VD::div(VD::mul(_mm_cvtepi32_pd(n), k), _mm_cvtepi32_pd(d));
+                return rounding::toInt32<M>(q, lo, hi);
+            };
+            return _mm_unpacklo_epi64(half(den, num), half(_mm_srli_si128(den, 8), _mm_srli_si128(num, 8)));
+        }
+    };
+    // The quotients are already rounded and inside D: the lanes only narrow.
+    elementwise::lanes<false>(pDst, len, Op{k, lo, hi, &zeros}, scaling::Plain{}, pDen, pNum);
+    // The mask also sees the zero padding of a tail block, so a set mask is
+    // confirmed on the divisors themselves.
+    return _mm_movemask_epi8(zeros) != 0 && anyZero(pDen, len);
+}
+
+}  // namespace quotient
