@@ -32,82 +32,85 @@ struct Block {
     Qsp8u* p;
 };
 
-// ------------------------------------------------------------ complex 32fc
+// ------------------------------------------------------------ complex
 
-void qspC32(benchmark::State& state)
+// The library's and FFTW's interfaces for one complex precision.
+template <class T>
+struct Complex;
+
+template <>
+struct Complex<float> {
+    using Value = Qsp32fc;
+    using Spec = QspsFFTSpec_C_32fc;
+    using PeerValue = fftwf_complex;
+    using Plan = fftwf_plan;
+    static constexpr auto getSize = qspsFFTGetSize_C_32fc;
+    static constexpr auto init = qspsFFTInit_C_32fc;
+    static constexpr auto forward = qspsFFTFwd_CToC_32fc;
+    static constexpr auto alloc = qspsMalloc_32fc;
+    static PeerValue* peerAlloc(int n) { return fftwf_alloc_complex(n); }
+    static Plan plan(int n, PeerValue* s, PeerValue* d) { return fftwf_plan_dft_1d(n, s, d, FFTW_FORWARD, FFTW_MEASURE); }
+    static void execute(Plan p) { fftwf_execute(p); }
+    static void destroy(Plan p) { fftwf_destroy_plan(p); }
+    static void peerFree(PeerValue* p) { fftwf_free(p); }
+};
+
+template <>
+struct Complex<double> {
+    using Value = Qsp64fc;
+    using Spec = QspsFFTSpec_C_64fc;
+    using PeerValue = fftw_complex;
+    using Plan = fftw_plan;
+    static constexpr auto getSize = qspsFFTGetSize_C_64fc;
+    static constexpr auto init = qspsFFTInit_C_64fc;
+    static constexpr auto forward = qspsFFTFwd_CToC_64fc;
+    static constexpr auto alloc = qspsMalloc_64fc;
+    static PeerValue* peerAlloc(int n) { return fftw_alloc_complex(n); }
+    static Plan plan(int n, PeerValue* s, PeerValue* d) { return fftw_plan_dft_1d(n, s, d, FFTW_FORWARD, FFTW_MEASURE); }
+    static void execute(Plan p) { fftw_execute(p); }
+    static void destroy(Plan p) { fftw_destroy_plan(p); }
+    static void peerFree(PeerValue* p) { fftw_free(p); }
+};
+
+template <class T>
+void qspComplex(benchmark::State& state)
 {
+    using A = Complex<T>;
     const int order = int(state.range(0));
     const int n = 1 << order;
     int s, i, w;
-    qspsFFTGetSize_C_32fc(order, 8, 0, &s, &i, &w);
+    A::getSize(order, 8, 0, &s, &i, &w);
     Block spec(s), init(i), work(w);
-    QspsFFTSpec_C_32fc* rec;
-    qspsFFTInit_C_32fc(&rec, order, 8, 0, spec.p, init.p);
-    Qsp32fc* src = qspsMalloc_32fc(n);
-    Qsp32fc* dst = qspsMalloc_32fc(n);
-    for (int k = 0; k < n; ++k) src[k] = {float(k % 7) - 3.0f, float(k % 5) - 2.0f};
+    typename A::Spec* rec;
+    A::init(&rec, order, 8, 0, spec.p, init.p);
+    typename A::Value* src = A::alloc(n);
+    typename A::Value* dst = A::alloc(n);
+    for (int k = 0; k < n; ++k) src[k] = {T(k % 7) - 3, T(k % 5) - 2};
     for (auto _ : state) {
-        qspsFFTFwd_CToC_32fc(src, dst, rec, work.p);
+        A::forward(src, dst, rec, work.p);
         benchmark::ClobberMemory();
     }
     setRate(state, order);
     qspsFree(src), qspsFree(dst);
 }
 
-void fftwC32(benchmark::State& state)
+template <class T>
+void fftwComplex(benchmark::State& state)
 {
+    using A = Complex<T>;
     const int order = int(state.range(0));
     const int n = 1 << order;
-    fftwf_complex* src = fftwf_alloc_complex(n);
-    fftwf_complex* dst = fftwf_alloc_complex(n);
-    fftwf_plan p = fftwf_plan_dft_1d(n, src, dst, FFTW_FORWARD, FFTW_MEASURE);
-    for (int k = 0; k < n; ++k) src[k][0] = float(k % 7) - 3.0f, src[k][1] = float(k % 5) - 2.0f;
+    typename A::PeerValue* src = A::peerAlloc(n);
+    typename A::PeerValue* dst = A::peerAlloc(n);
+    typename A::Plan p = A::plan(n, src, dst);
+    for (int k = 0; k < n; ++k) src[k][0] = T(k % 7) - 3, src[k][1] = T(k % 5) - 2;
     for (auto _ : state) {
-        fftwf_execute(p);
+        A::execute(p);
         benchmark::ClobberMemory();
     }
     setRate(state, order);
-    fftwf_destroy_plan(p);
-    fftwf_free(src), fftwf_free(dst);
-}
-
-// ------------------------------------------------------------ complex 64fc
-
-void qspC64(benchmark::State& state)
-{
-    const int order = int(state.range(0));
-    const int n = 1 << order;
-    int s, i, w;
-    qspsFFTGetSize_C_64fc(order, 8, 0, &s, &i, &w);
-    Block spec(s), init(i), work(w);
-    QspsFFTSpec_C_64fc* rec;
-    qspsFFTInit_C_64fc(&rec, order, 8, 0, spec.p, init.p);
-    Qsp64fc* src = qspsMalloc_64fc(n);
-    Qsp64fc* dst = qspsMalloc_64fc(n);
-    for (int k = 0; k < n; ++k) src[k] = {double(k % 7) - 3.0, double(k % 5) - 2.0};
-    for (auto _ : state) {
-        qspsFFTFwd_CToC_64fc(src, dst, rec, work.p);
-        benchmark::ClobberMemory();
-    }
-    setRate(state, order);
-    qspsFree(src), qspsFree(dst);
-}
-
-void fftwC64(benchmark::State& state)
-{
-    const int order = int(state.range(0));
-    const int n = 1 << order;
-    fftw_complex* src = fftw_alloc_complex(n);
-    fftw_complex* dst = fftw_alloc_complex(n);
-    fftw_plan p = fftw_plan_dft_1d(n, src, dst, FFTW_FORWARD, FFTW_MEASURE);
-    for (int k = 0; k < n; ++k) src[k][0] = double(k % 7) - 3.0, src[k][1] = double(k % 5) - 2.0;
-    for (auto _ : state) {
-        fftw_execute(p);
-        benchmark::ClobberMemory();
-    }
-    setRate(state, order);
-    fftw_destroy_plan(p);
-    fftw_free(src), fftw_free(dst);
+    A::destroy(p);
+    A::peerFree(src), A::peerFree(dst);
 }
 
 // ------------------------------------------------------------ real 32f
@@ -187,10 +190,10 @@ void orders(benchmark::internal::Benchmark* b)
 
 }  // namespace
 
-BENCHMARK(qspC32)->Name("qsp/C_32fc")->Apply(orders);
-BENCHMARK(fftwC32)->Name("fftw/C_32fc")->Apply(orders);
-BENCHMARK(qspC64)->Name("qsp/C_64fc")->Apply(orders);
-BENCHMARK(fftwC64)->Name("fftw/C_64fc")->Apply(orders);
+BENCHMARK(qspComplex<float>)->Name("qsp/C_32fc")->Apply(orders);
+BENCHMARK(fftwComplex<float>)->Name("fftw/C_32fc")->Apply(orders);
+BENCHMARK(qspComplex<double>)->Name("qsp/C_64fc")->Apply(orders);
+BENCHMARK(fftwComplex<double>)->Name("fftw/C_64fc")->Apply(orders);
 BENCHMARK(qspR32)->Name("qsp/R_32f")->Apply(orders);
 BENCHMARK(fftwR32)->Name("fftw/R_32f")->Apply(orders);
 BENCHMARK(qspSetup)->Name("qsp/setup_C_32fc")->Arg(10)->Arg(16)->Arg(20);

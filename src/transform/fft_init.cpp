@@ -99,8 +99,10 @@ QspStatus init(fft::Kind kind, void** ppSpec, int order, int flag, int hint, Qsp
         return qspStsOk;
     }
 
-    fft::Octant<T> oct = fft::builtinOctant<T>(order);
-    if (order > fft::kBuiltinOrder) {
+    fft::Octant<T> oct{};
+    if (order <= fft::kBuiltinOrder) {
+        oct = fft::builtinOctant<T>(order);
+    } else {
         if (pSpecBuffer == nullptr) {
             rec->id = 0;
             return qspStsNullPtr;

@@ -147,6 +147,7 @@ constexpr BuiltinAs<T> makeBuiltinAs()
 template <class T>
 inline constexpr BuiltinAs<T> kBuiltinAs = makeBuiltinAs<T>();
 
+// The built-in octant as the octant of length 2^order, order <= 10.
 template <class T>
 inline Octant<T> builtinOctant(int order)
 {

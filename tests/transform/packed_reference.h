@@ -41,4 +41,26 @@ std::vector<T> randomValues(size_t n)
     return v;
 }
 
+// Checks an in-place packed product f(src, srcDst, len) for lengths 1..40
+// against the bin-by-bin product in long double. With operands in [-4, 4]
+// every component is at most 32 in size and carries at most two roundings
+// of the element type, so 64 units of its epsilon bound the error.
+template <class T, bool Conj>
+void checkInPlaceProducts(Layout l, QspStatus (*f)(const T*, T*, int))
+{
+    const long double tol = 64 * (long double)std::numeric_limits<T>::epsilon();
+    for (int len = 1; len <= 40; ++len) {
+        auto a = randomValues<T>(len), b = randomValues<T>(len);
+        auto d = b;
+        ASSERT_EQ(f(a.data(), d.data(), len), qspStsOk);
+        const auto ba = bins(l, a.data(), len), bb = bins(l, b.data(), len), bd = bins(l, d.data(), len);
+        for (size_t k = 0; k < ba.size(); ++k) {
+            const LC want = ba[k] * (Conj ? std::conj(bb[k]) : bb[k]);
+            EXPECT_LE(std::abs(bd[k] - want), tol) << "len " << len << " bin " << k;
+        }
+        // The real bins are single roundings of the exact product.
+        EXPECT_EQ(d[0], a[0] * b[0]);
+    }
+}
+
 }  // namespace packedref

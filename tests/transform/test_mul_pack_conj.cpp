@@ -33,20 +33,6 @@ TEST(MulPackConj, TheInPlaceOperandIsConjugated)
 
 TEST(MulPackConj, EveryLengthMatchesTheReference)
 {
-    for (int len = 1; len <= 40; ++len) {
-        auto a = randomValues<Qsp64f>(len), b = randomValues<Qsp64f>(len);
-        auto d = b;
-        ASSERT_EQ(qspsMulPackConj_64f_I(a.data(), d.data(), len), qspStsOk);
-        const auto ba = bins(Layout::Pack, a.data(), len), bb = bins(Layout::Pack, b.data(), len);
-        const auto bd = bins(Layout::Pack, d.data(), len);
-        for (size_t k = 0; k < ba.size(); ++k)
-            EXPECT_LE(std::abs(bd[k] - ba[k] * std::conj(bb[k])), 64 * 4e-16L) << len << " " << k;
-        auto af = randomValues<Qsp32f>(len), bf = randomValues<Qsp32f>(len);
-        auto df = bf;
-        ASSERT_EQ(qspsMulPackConj_32f_I(af.data(), df.data(), len), qspStsOk);
-        const auto fa = bins(Layout::Pack, af.data(), len), fb = bins(Layout::Pack, bf.data(), len);
-        const auto fd = bins(Layout::Pack, df.data(), len);
-        for (size_t k = 0; k < fa.size(); ++k)
-            EXPECT_LE(std::abs(fd[k] - fa[k] * std::conj(fb[k])), 64 * 2.4e-7L) << len << " " << k;
-    }
+    checkInPlaceProducts<Qsp32f, true>(Layout::Pack, qspsMulPackConj_32f_I);
+    checkInPlaceProducts<Qsp64f, true>(Layout::Pack, qspsMulPackConj_64f_I);
 }

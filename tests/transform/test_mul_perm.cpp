@@ -22,7 +22,13 @@ TEST(MulPerm, StatusesAndCanaries)
     EXPECT_TRUE(w.untouched());
 }
 
-TEST(MulPerm, EveryLengthMatchesTheReferenceInAndOutOfPlace)
+TEST(MulPerm, EveryLengthMatchesTheReference)
+{
+    checkInPlaceProducts<Qsp32f, false>(Layout::Perm, qspsMulPerm_32f_I);
+    checkInPlaceProducts<Qsp64f, false>(Layout::Perm, qspsMulPerm_64f_I);
+}
+
+TEST(MulPerm, OutOfPlaceEqualsInPlace)
 {
     for (int len = 1; len <= 40; ++len) {
         auto a = randomValues<Qsp32f>(len), b = randomValues<Qsp32f>(len);
@@ -30,17 +36,11 @@ TEST(MulPerm, EveryLengthMatchesTheReferenceInAndOutOfPlace)
         ASSERT_EQ(qspsMulPerm_32f(a.data(), b.data(), d.data(), len), qspStsOk);
         ASSERT_EQ(qspsMulPerm_32f_I(a.data(), di.data(), len), qspStsOk);
         EXPECT_EQ(d[len], -9.0f);
-        const auto ba = bins(Layout::Perm, a.data(), len), bb = bins(Layout::Perm, b.data(), len);
-        const auto bd = bins(Layout::Perm, d.data(), len);
-        for (size_t k = 0; k < ba.size(); ++k) EXPECT_LE(std::abs(bd[k] - ba[k] * bb[k]), 64 * 2.4e-7L);
         for (int i = 0; i < len; ++i) ASSERT_EQ(d[i], di[i]);
         auto x = randomValues<Qsp64f>(len), y = randomValues<Qsp64f>(len);
         std::vector<Qsp64f> z(len), zi = y;
         ASSERT_EQ(qspsMulPerm_64f(x.data(), y.data(), z.data(), len), qspStsOk);
         ASSERT_EQ(qspsMulPerm_64f_I(x.data(), zi.data(), len), qspStsOk);
-        const auto bx = bins(Layout::Perm, x.data(), len), by = bins(Layout::Perm, y.data(), len);
-        const auto bz = bins(Layout::Perm, z.data(), len);
-        for (size_t k = 0; k < bx.size(); ++k) EXPECT_LE(std::abs(bz[k] - bx[k] * by[k]), 64 * 4.4e-16L);
         for (int i = 0; i < len; ++i) ASSERT_EQ(z[i], zi[i]);
     }
 }
