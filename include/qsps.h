@@ -613,6 +613,22 @@ QspStatus qspsDotProd_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64s len
 QspStatus qspsDotProd_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
 QspStatus qspsDotProd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
 
+/* SumLn ------------------------------------------------------------------- */
+/*
+ * Sum of natural logarithms: *pSum = sum of ln(pSrc[i]), formed in blocks of
+ * 512 from the binary exponents (added as integers) and the mantissas in
+ * [0.5, 1) (multiplied in double): a block adds (exponent sum) ln 2 + ln of
+ * its product; blocks add in double. The first special element decides: a
+ * zero gives +infinity and the warning qspStsWarnLogOfZero (kept so, though
+ * the limit is -infinity); a set sign bit (negative values, -0.0) a NaN and
+ * qspStsWarnLogOfNegative; a NaN a NaN and qspStsOk; +infinity +infinity and
+ * qspStsOk. The NaN results have the sign bit set.
+ */
+QspStatus qspsSumLn_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pSum);
+QspStatus qspsSumLn_32f(const Qsp32f* pSrc, int len, Qsp32f* pSum);
+QspStatus qspsSumLn_32f64f(const Qsp32f* pSrc, int len, Qsp64f* pSum);
+QspStatus qspsSumLn_64f(const Qsp64f* pSrc, int len, Qsp64f* pSum);
+
 /* Max --------------------------------------------------------------------- */
 /*
  * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it
