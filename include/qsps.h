@@ -1040,6 +1040,22 @@ QspStatus qspsDotProd_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64s len
 QspStatus qspsDotProd_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
 QspStatus qspsDotProd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
 
+/* SumLn ------------------------------------------------------------------- */
+/*
+ * Sum of natural logarithms: *pSum = sum of ln(pSrc[i]), formed in blocks of
+ * 512 from the binary exponents (added as integers) and the mantissas in
+ * [0.5, 1) (multiplied in double): a block adds (exponent sum) ln 2 + ln of
+ * its product; blocks add in double. The first special element decides: a
+ * zero gives +infinity and the warning qspStsWarnLogOfZero (kept so, though
+ * the limit is -infinity); a set sign bit (negative values, -0.0) a NaN and
+ * qspStsWarnLogOfNegative; a NaN a NaN and qspStsOk; +infinity +infinity and
+ * qspStsOk. The NaN results have the sign bit set.
+ */
+QspStatus qspsSumLn_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pSum);
+QspStatus qspsSumLn_32f(const Qsp32f* pSrc, int len, Qsp32f* pSum);
+QspStatus qspsSumLn_32f64f(const Qsp32f* pSrc, int len, Qsp64f* pSum);
+QspStatus qspsSumLn_64f(const Qsp64f* pSrc, int len, Qsp64f* pSum);
+
 /* Max --------------------------------------------------------------------- */
 /*
  * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it
@@ -1244,6 +1260,90 @@ QspStatus qspsSortRadixDescend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer);
 QspStatus qspsSortRadixDescend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
 QspStatus qspsSortRadixDescend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer);
 QspStatus qspsSortRadixDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+
+/* Sort -------------------------------------------------------------------- */
+/*
+ * In-place comparison sort, ascending or descending, needing no buffer.
+ * Floating values order as in SortRadix (NaNs by their bit patterns). Not
+ * stable (equal values are indistinguishable). _L forms take a 64-bit
+ * length.
+ */
+QspStatus qspsSortAscend_8u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsSortAscend_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsSortAscend_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsSortAscend_32s_I(Qsp32s* pSrcDst, int len);
+QspStatus qspsSortAscend_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsSortAscend_64s_I(Qsp64s* pSrcDst, int len);
+QspStatus qspsSortAscend_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsSortAscend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len);
+QspStatus qspsSortAscend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSortAscend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsSortDescend_8u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsSortDescend_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsSortDescend_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsSortDescend_32s_I(Qsp32s* pSrcDst, int len);
+QspStatus qspsSortDescend_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsSortDescend_64s_I(Qsp64s* pSrcDst, int len);
+QspStatus qspsSortDescend_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsSortDescend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len);
+QspStatus qspsSortDescend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSortDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
+
+/* SortIndex --------------------------------------------------------------- */
+/*
+ * Sorts a vector in place, ascending or descending, and writes beside it the
+ * permutation: pDstIndx[j] is the original index of the value now at j. Equal
+ * values keep their original order.
+ */
+QspStatus qspsSortIndexAscend_8u_I(Qsp8u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_16u_I(Qsp16u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_16s_I(Qsp16s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_32s_I(Qsp32s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_32f_I(Qsp32f* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_64f_I(Qsp64f* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_8u_I(Qsp8u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_16u_I(Qsp16u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_16s_I(Qsp16s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_32s_I(Qsp32s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_32f_I(Qsp32f* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_64f_I(Qsp64f* pSrcDst, int* pDstIndx, int len);
+
+/* SortRadixIndex ---------------------------------------------------------- */
+/*
+ * Writes the sorting permutation of a vector without moving it: pDstIndx[j] is
+ * the index of the j-th smallest (Ascend) or largest (Descend) element, equal
+ * values in index order. The work buffer's size comes from
+ * SortRadixIndexGetBufferSize for len and the type code. _L forms take 64-bit
+ * lengths and indices.
+ */
+QspStatus qspsSortRadixIndexGetBufferSize(int len, QspDataType dataType, int* pBufferSize);
+QspStatus qspsSortRadixIndexGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize);
+QspStatus qspsSortRadixIndexAscend_8u(const Qsp8u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_16u(const Qsp16u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_16s(const Qsp16s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32u(const Qsp32u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32s(const Qsp32s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32s_L(const Qsp32s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32f(const Qsp32f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32f_L(const Qsp32f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64u(const Qsp64u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64s(const Qsp64s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64s_L(const Qsp64s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64f(const Qsp64f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64f_L(const Qsp64f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_8u(const Qsp8u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_16u(const Qsp16u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_16s(const Qsp16s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32u(const Qsp32u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32s(const Qsp32s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32s_L(const Qsp32s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32f(const Qsp32f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32f_L(const Qsp32f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64u(const Qsp64u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64s(const Qsp64s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64s_L(const Qsp64s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64f(const Qsp64f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64f_L(const Qsp64f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
 
 #ifdef __cplusplus
 }

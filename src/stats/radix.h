@@ -84,6 +84,16 @@ struct FloatKey {
     }
 };
 
+// The mappings by type and order, as the sort families name them.
+namespace keys {
+using UnsignedUp = UnsignedKey<Order::Ascend>;
+using UnsignedDown = UnsignedKey<Order::Descend>;
+using SignedUp = SignedKey<Order::Ascend>;
+using SignedDown = SignedKey<Order::Descend>;
+using FloatUp = FloatKey<Order::Ascend>;
+using FloatDown = FloatKey<Order::Descend>;
+}  // namespace keys
+
 // ---------------------------------------------------------------------------
 // Digit plans: the widths of the digits from the least significant up, which
 // is also the order of the passes. Histogram d starts at counter offset(d).
@@ -124,6 +134,28 @@ static_assert(Digits32::counters * 4 <= kHistogramBytes32);
 static_assert(Digits64::counters * 4 <= kHistogramBytes64f);
 static_assert(DigitsWide32::counters * 8 <= kHistogramBytes32);
 static_assert(DigitsWide64::counters * 8 <= kHistogramBytes64f);
+
+// The answer of a buffer-size query: size 0 and qspStsBadDataType for a type
+// without a shape; qspStsOverflow (nothing written) when the size reaches
+// 2^31 (a 32-bit result) or 2^63 (a 64-bit one), judged in double, where
+// the product cannot wrap; otherwise the size.
+struct BufferShape {
+    bool known;
+    Qsp64s perElement, fixed;
+};
+
+template <class Size>
+QspStatus reportBufferSize(Qsp64s len, BufferShape shape, Size* pSize)
+{
+    if (!shape.known) {
+        *pSize = 0;
+        return qspStsBadDataType;
+    }
+    const double limit = sizeof(Size) == 4 ? 2147483648.0 : 9223372036854775808.0;
+    if (double(shape.perElement) * double(len) + double(shape.fixed) >= limit) return qspStsOverflow;
+    *pSize = Size(shape.perElement * len + shape.fixed);
+    return qspStsOk;
+}
 
 // ---------------------------------------------------------------------------
 // The passes.
@@ -221,6 +253,76 @@ void ownsSortRadix(K* pSrcDst, Qsp64s len, Qsp8u* pBuffer, Qsp64s tempOffset)
     else
         pass(temp, vec, D::passes - 1, back);
     if (D::passes % 2 == 1) ownsCopyKeys(temp, vec, len);
+}
+
+// The radix index sort: the same passes over (key, index) pairs, the keys
+// mapped from the source as the first pass reads it, which is never
+// written. Pass d reads the keys and indices that pass d - 1 wrote (the
+// first pass: the mapped source and the indices 0, 1, ...) and writes them
+// by digit d; the last pass writes only the indices, into pIndx. Buffer:
+// the counters, then one key array (two when there are three passes or
+// more, which alternate), then one index array; the index arrays alternate
+// between it and pIndx so that the last pass lands in pIndx.
+template <class D, class K, class I>
+constexpr Qsp64s indexBufferBytes(Qsp64s histogramBytes, Qsp64s len)
+{
+    return histogramBytes + (D::passes >= 3 ? 2 : D::passes == 2 ? 1 : 0) * len * Qsp64s(sizeof(K)) +
+           (D::passes >= 2 ? len * Qsp64s(sizeof(I)) : 0);
+}
+
+template <class Map, class D, class C, class K, class I>
+void ownsSortRadixIndex(const K* pSrc, I* pIndx, Qsp64s len, Qsp8u* pBuffer, Qsp64s histogramBytes)
+{
+    Cell<C>* count = reinterpret_cast<Cell<C>*>(pBuffer);
+    Cell<K>* keys[2] = {reinterpret_cast<Cell<K>*>(pBuffer + histogramBytes),
+                        reinterpret_cast<Cell<K>*>(pBuffer + histogramBytes) + (D::passes >= 3 ? len : 0)};
+    Cell<I>* indexTemp = reinterpret_cast<Cell<I>*>(pBuffer + histogramBytes +
+                                                    (D::passes >= 3 ? 2 : 1) * len * Qsp64s(sizeof(K)));
+    Cell<I>* out = reinterpret_cast<Cell<I>*>(pIndx);
+
+    for (int i = 0; i < D::counters; ++i) count[i].v = 0;
+    for (Qsp64s i = 0; i < len; ++i) {
+        const K k = Map::toKey(pSrc[i]);
+        for (int d = 0; d < D::passes; ++d)
+            ++count[D::offset(d) + int((k >> D::shift(d)) & ((K(1) << D::width[d]) - 1))].v;
+    }
+    for (int d = 0; d < D::passes; ++d) {
+        C run = C(0) - 1;
+        for (int j = 0; j < (1 << D::width[d]); ++j) {
+            const C n = count[D::offset(d) + j].v;
+            count[D::offset(d) + j].v = run;
+            run += n;
+        }
+    }
+
+    // Index arrays by pass: the last writes pIndx, the one before the
+    // temporary array, and so on back.
+    auto indexOut = [&](int d) { return (D::passes - 1 - d) % 2 == 0 ? out : indexTemp; };
+    for (int d = 0; d < D::passes; ++d) {
+        Cell<C>* c = count + D::offset(d);
+        const int shift = D::shift(d);
+        const K mask = (K(1) << D::width[d]) - 1;
+        const bool last = d == D::passes - 1;
+        Cell<I>* idxOut = indexOut(d);
+        Cell<K>* keyOut = keys[d % 2];
+        if (d == 0) {
+            for (Qsp64s i = 0; i < len; ++i) {
+                const K k = Map::toKey(pSrc[i]);
+                const C at = ++c[(k >> shift) & mask].v;
+                idxOut[at].v = I(i);
+                if (!last) keyOut[at].v = k;
+            }
+        } else {
+            const Cell<K>* keyIn = keys[(d - 1) % 2];
+            const Cell<I>* idxIn = indexOut(d - 1);
+            for (Qsp64s i = 0; i < len; ++i) {
+                const K k = keyIn[i].v;
+                const C at = ++c[(k >> shift) & mask].v;
+                idxOut[at].v = idxIn[i].v;
+                if (!last) keyOut[at].v = k;
+            }
+        }
+    }
 }
 
 }  // namespace y8::radix

@@ -9,30 +9,27 @@ namespace y8 {
 namespace {
 
 using radix::Order;
+namespace keys = radix::keys;
 
 // ---------------------------------------------------------------------------
 // Buffer sizes
 // ---------------------------------------------------------------------------
 
 // Bytes per element of the temporary array and bytes of the histogram
-// block, by data-type code; false for a code that has no radix sort.
-struct BufferShape {
-    Qsp64s elementBytes, histogramBytes;
-};
-
-bool bufferShape(QspDataType type, BufferShape& shape)
+// block, by data-type code.
+radix::BufferShape bufferShape(QspDataType type)
 {
     switch (type) {
-    case qsp8u: shape = {1, radix::kHistogramBytes8}; return true;
+    case qsp8u: return {true, 1, radix::kHistogramBytes8};
     case qsp16u:
-    case qsp16s: shape = {2, radix::kHistogramBytes16}; return true;
+    case qsp16s: return {true, 2, radix::kHistogramBytes16};
     case qsp32u:
     case qsp32s:
-    case qsp32f: shape = {4, radix::kHistogramBytes32}; return true;
+    case qsp32f: return {true, 4, radix::kHistogramBytes32};
     case qsp64u:
-    case qsp64s: shape = {8, radix::kHistogramBytes64}; return true;
-    case qsp64f: shape = {8, radix::kHistogramBytes64f}; return true;
-    default: return false;
+    case qsp64s: return {true, 8, radix::kHistogramBytes64};
+    case qsp64f: return {true, 8, radix::kHistogramBytes64f};
+    default: return {false, 0, 0};
     }
 }
 
@@ -126,12 +123,6 @@ QspStatus sortCount8(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer)
     return qspStsOk;
 }
 
-using UA = radix::UnsignedKey<Order::Ascend>;
-using UD = radix::UnsignedKey<Order::Descend>;
-using SA = radix::SignedKey<Order::Ascend>;
-using SD = radix::SignedKey<Order::Descend>;
-using FA = radix::FloatKey<Order::Ascend>;
-using FD = radix::FloatKey<Order::Descend>;
 constexpr Qsp64s k64 = radix::kHistogramBytes64;
 constexpr Qsp64s k64f = radix::kHistogramBytes64f;
 
@@ -141,61 +132,43 @@ QspStatus qspsSortRadixGetBufferSize(int len, QspDataType dataType, int* pBuffer
 {
     if (QspStatus s = check::pointers(pBufferSize)) return s;
     if (QspStatus s = check::length(len)) return s;
-    BufferShape shape;
-    if (!bufferShape(dataType, shape)) {
-        *pBufferSize = 0;
-        return qspStsBadDataType;
-    }
-    const Qsp64s size = shape.elementBytes * len + shape.histogramBytes;
-    if (size > 0x7FFFFFFF) return qspStsOverflow;
-    *pBufferSize = int(size);
-    return qspStsOk;
+    return radix::reportBufferSize(len, bufferShape(dataType), pBufferSize);
 }
 
 QspStatus qspsSortRadixGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize)
 {
     if (QspStatus s = check::vectorsL(len, pBufferSize)) return s;
-    BufferShape shape;
-    if (!bufferShape(dataType, shape)) {
-        *pBufferSize = 0;
-        return qspStsBadDataType;
-    }
-    // Judged in double, where the product cannot wrap: 2^63 and above does
-    // not fit the size.
-    if (double(shape.elementBytes) * double(len) + double(shape.histogramBytes) >= 9223372036854775808.0)
-        return qspStsOverflow;
-    *pBufferSize = shape.elementBytes * len + shape.histogramBytes;
-    return qspStsOk;
+    return radix::reportBufferSize(len, bufferShape(dataType), pBufferSize);
 }
 
 QspStatus qspsSortRadixAscend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer) { return sortCount8<Order::Ascend>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<UA>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<SA>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<UA>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<SA>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<FA>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<UA>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixAscend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<SA>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixAscend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<FA>(pSrcDst, len, pBuffer, k64f); }
-QspStatus qspsSortRadixAscend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<SA>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<FA>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixAscend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<UA>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixAscend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<SA>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixAscend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<FA>(pSrcDst, len, pBuffer, k64f); }
+QspStatus qspsSortRadixAscend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<keys::UnsignedUp>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixAscend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<keys::SignedUp>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixAscend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<keys::UnsignedUp>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixAscend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<keys::SignedUp>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixAscend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<keys::FloatUp>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixAscend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<keys::UnsignedUp>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixAscend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<keys::SignedUp>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixAscend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<keys::FloatUp>(pSrcDst, len, pBuffer, k64f); }
+QspStatus qspsSortRadixAscend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<keys::SignedUp>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixAscend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<keys::FloatUp>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixAscend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<keys::UnsignedUp>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixAscend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<keys::SignedUp>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixAscend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<keys::FloatUp>(pSrcDst, len, pBuffer, k64f); }
 
 QspStatus qspsSortRadixDescend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer) { return sortCount8<Order::Descend>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<UD>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<SD>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<UD>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<SD>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<FD>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<UD>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixDescend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<SD>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixDescend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<FD>(pSrcDst, len, pBuffer, k64f); }
-QspStatus qspsSortRadixDescend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<SD>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<FD>(pSrcDst, len, pBuffer); }
-QspStatus qspsSortRadixDescend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<UD>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixDescend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<SD>(pSrcDst, len, pBuffer, k64); }
-QspStatus qspsSortRadixDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<FD>(pSrcDst, len, pBuffer, k64f); }
+QspStatus qspsSortRadixDescend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<keys::UnsignedDown>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixDescend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix16<keys::SignedDown>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixDescend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<keys::UnsignedDown>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixDescend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<keys::SignedDown>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixDescend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix32<keys::FloatDown>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixDescend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<keys::UnsignedDown>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixDescend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<keys::SignedDown>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixDescend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer) { return sortRadix64<keys::FloatDown>(pSrcDst, len, pBuffer, k64f); }
+QspStatus qspsSortRadixDescend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<keys::SignedDown>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixDescend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix32L<keys::FloatDown>(pSrcDst, len, pBuffer); }
+QspStatus qspsSortRadixDescend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<keys::UnsignedDown>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixDescend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<keys::SignedDown>(pSrcDst, len, pBuffer, k64); }
+QspStatus qspsSortRadixDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer) { return sortRadix64L<keys::FloatDown>(pSrcDst, len, pBuffer, k64f); }
 
 }  // namespace y8

@@ -3,55 +3,15 @@
 #include <cstring>
 #include <limits>
 
-#include "qsp_test.h"
+#include "sort_reference.h"
 #include "stats/radix.h"
 
 using qsptest::Guarded;
 
 namespace {
 
-// ---------------------------------------------------------------------------
-// The order the sorts promise, written independently of the library's key
-// formulas: integers by value; floating values by sign and magnitude of
-// their bit patterns, a set sign bit placing a pattern below every pattern
-// without it, and larger magnitudes further from zero. This is the total
-// order -NaN < -Inf < ... < -0.0 < +0.0 < ... < +Inf < +NaN.
-// ---------------------------------------------------------------------------
-
-template <class T>
-long double rankOf(T x)
-{
-    if constexpr (std::is_floating_point_v<T>) {
-        using U = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
-        U u;
-        std::memcpy(&u, &x, sizeof u);
-        const U top = U(1) << (8 * sizeof(U) - 1);
-        return (u & top) ? -(long double)(u & ~top) - 1 : (long double)u;
-    } else {
-        return (long double)x;
-    }
-}
-
-template <class T>
-std::vector<T> referenceSorted(std::vector<T> v, bool ascend)
-{
-    std::stable_sort(v.begin(), v.end(), [&](T a, T b) { return ascend ? rankOf(a) < rankOf(b) : rankOf(b) < rankOf(a); });
-    return v;
-}
-
-template <class T>
-QspDataType typeCode()
-{
-    if constexpr (std::is_same_v<T, Qsp8u>) return qsp8u;
-    if constexpr (std::is_same_v<T, Qsp16u>) return qsp16u;
-    if constexpr (std::is_same_v<T, Qsp16s>) return qsp16s;
-    if constexpr (std::is_same_v<T, Qsp32u>) return qsp32u;
-    if constexpr (std::is_same_v<T, Qsp32s>) return qsp32s;
-    if constexpr (std::is_same_v<T, Qsp32f>) return qsp32f;
-    if constexpr (std::is_same_v<T, Qsp64u>) return qsp64u;
-    if constexpr (std::is_same_v<T, Qsp64s>) return qsp64s;
-    if constexpr (std::is_same_v<T, Qsp64f>) return qsp64f;
-}
+using sortref::referenceSorted;
+using sortref::typeCode;
 
 template <class T>
 using SortFn = QspStatus (*)(T*, int, Qsp8u*);
@@ -126,30 +86,6 @@ void expectSorts(const std::vector<T>& v, const char* what)
     }
 }
 
-// Special values of each type, to be mixed into the inputs.
-template <class T>
-std::vector<T> specials()
-{
-    if constexpr (std::is_floating_point_v<T>) {
-        using U = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
-        const U top = U(1) << (8 * sizeof(U) - 1);
-        const U expAll = sizeof(T) == 4 ? U(0x7F800000) : U(0x7FF0000000000000ull);
-        const U patterns[] = {0, top, expAll, top | expAll, expAll | 1, expAll | 2, top | expAll | 1,
-                              top | expAll | (expAll >> 1) /* quiet, large payload */, expAll | (expAll >> 1), 1,
-                              top | 1, expAll - 1, top | (expAll - 1), (top >> 1) /* 2.0 */};
-        std::vector<T> out;
-        for (U p : patterns) {
-            T x;
-            std::memcpy(&x, &p, sizeof x);
-            out.push_back(x);
-        }
-        return out;
-    } else {
-        return {std::numeric_limits<T>::min(), std::numeric_limits<T>::max(), T(0), T(1), T(-1),
-                T(std::numeric_limits<T>::min() + 1), T(std::numeric_limits<T>::max() - 1)};
-    }
-}
-
 template <class T>
 void checkEveryShape()
 {
@@ -159,7 +95,7 @@ void checkEveryShape()
 
     // Special values mixed with random ones, many repeats of each.
     std::vector<T> mixed = qsptest::randomBits<T>(3000);
-    const std::vector<T> sp = specials<T>();
+    const std::vector<T> sp = sortref::specials<T>();
     for (size_t i = 0; i < mixed.size(); i += 3) mixed[i] = sp[(i / 3) % sp.size()];
     expectSorts(mixed, "special values");
     expectSorts(sp, "special values alone");
