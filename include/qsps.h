@@ -605,6 +605,50 @@ QspStatus qspsRealToCplx_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64fc
 QspStatus qspsRealToCplx_32f_L(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32fc* pDst, Qsp64s len);
 QspStatus qspsRealToCplx_64f_L(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64fc* pDst, Qsp64s len);
 
+/* Magnitude --------------------------------------------------------------- */
+/*
+ * Magnitude of complex elements: pDst[i] = sqrt(re^2 + im^2), from an
+ * interleaved complex vector (pSrc) or from separate parts (pSrcRe, pSrcIm).
+ * 16sc and 32sc forms: 16sc32f writes floats, Sfs forms scale, round and saturate.
+ * _L forms chunk as Add does.
+ */
+QspStatus qspsMagnitude_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsMagnitude_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsMagnitude_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDst, int len);
+QspStatus qspsMagnitude_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDst, int len);
+QspStatus qspsMagnitude_16sc32f(const Qsp16sc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsMagnitude_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMagnitude_32sc_Sfs(const Qsp32sc* pSrc, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMagnitude_32fc_L(const Qsp32fc* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsMagnitude_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDst, Qsp64s len);
+
+/* Phase ------------------------------------------------------------------- */
+/*
+ * Phase angle of complex elements: pDst[i] = atan2(im, re) in radians, in
+ * (-pi, pi]; from an interleaved vector (pSrc) or from separate parts (pSrcRe,
+ * pSrcIm). The Sfs form scale the angle by 2^-scaleFactor before rounding.
+ */
+QspStatus qspsPhase_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsPhase_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsPhase_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDst, int len);
+QspStatus qspsPhase_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDst, int len);
+QspStatus qspsPhase_16sc32f(const Qsp16sc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsPhase_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+
+/* PowerSpectr ------------------------------------------------------------- */
+/*
+ * Power of complex elements: pDst[i] = re^2 + im^2, from an interleaved vector
+ * (pSrc) or from separate parts (pSrcRe, pSrcIm). Sfs forms scale, round and saturate. _L forms
+ * chunk as Add does.
+ */
+QspStatus qspsPowerSpectr_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsPowerSpectr_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsPowerSpectr_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDst, int len);
+QspStatus qspsPowerSpectr_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDst, int len);
+QspStatus qspsPowerSpectr_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsPowerSpectr_32fc_L(const Qsp32fc* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsPowerSpectr_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDst, Qsp64s len);
+
 /* Div --------------------------------------------------------------------- */
 /*
  * Element-wise quotient, second source divided by the first: pDst[i] =
