@@ -494,6 +494,20 @@ QspStatus qspsSubCRev_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
 
+/* AddProduct -------------------------------------------------------------- */
+/*
+ * Accumulates a product: pSrcDst[i] += pSrc1[i] * pSrc2[i] (complex: the
+ * complex product). Integer forms scale and saturate the new sum as Add does
+ * (the product and the old value are added exactly before scaling).
+ */
+QspStatus qspsAddProduct_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pSrcDst, int len);
+QspStatus qspsAddProduct_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pSrcDst, int len);
+QspStatus qspsAddProduct_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pSrcDst, int len);
+QspStatus qspsAddProduct_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pSrcDst, int len);
+QspStatus qspsAddProduct_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddProduct_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddProduct_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32s* pSrcDst, int len, int scaleFactor);
+
 /* Sqr --------------------------------------------------------------------- */
 /*
  * Square: pDst[i] = pSrc[i]^2 (complex: the complex square); in place on
@@ -648,6 +662,25 @@ QspStatus qspsPowerSpectr_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f
 QspStatus qspsPowerSpectr_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int scaleFactor);
 QspStatus qspsPowerSpectr_32fc_L(const Qsp32fc* pSrc, Qsp32f* pDst, Qsp64s len);
 QspStatus qspsPowerSpectr_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDst, Qsp64s len);
+
+/* Normalize --------------------------------------------------------------- */
+/*
+ * Shifts and scales: pDst[i] = (pSrc[i] - vSub) / vDiv; in place on pSrcDst.
+ * vDiv equal to zero gives qspStsZeroDivisor. The 16-bit forms compute
+ * exactly, then scale by 2^-scaleFactor, round and saturate.
+ */
+QspStatus qspsNormalize_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_32f_I(Qsp32f* pSrcDst, int len, Qsp32f vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_64f_I(Qsp64f* pSrcDst, int len, Qsp64f vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32fc vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32fc vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64fc vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64fc vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s vSub, int vDiv, int scaleFactor);
+QspStatus qspsNormalize_16s_ISfs(Qsp16s* pSrcDst, int len, Qsp16s vSub, int vDiv, int scaleFactor);
+QspStatus qspsNormalize_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, Qsp16sc vSub, int vDiv, int scaleFactor);
+QspStatus qspsNormalize_16sc_ISfs(Qsp16sc* pSrcDst, int len, Qsp16sc vSub, int vDiv, int scaleFactor);
 
 /* Div --------------------------------------------------------------------- */
 /*
