@@ -784,6 +784,106 @@ QspStatus qspsDivCRev_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
 
+/* And --------------------------------------------------------------------- */
+/*
+ * Bitwise and: pDst[i] = pSrc1[i] & pSrc2[i] (in place pSrcDst[i] &= pSrc[i]);
+ * the AndC forms take a constant: pDst[i] = pSrc[i] & val.
+ */
+QspStatus qspsAnd_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsAnd_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsAnd_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsAnd_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsAnd_32u(const Qsp32u* pSrc1, const Qsp32u* pSrc2, Qsp32u* pDst, int len);
+QspStatus qspsAnd_32u_I(const Qsp32u* pSrc, Qsp32u* pSrcDst, int len);
+QspStatus qspsAndC_8u(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len);
+QspStatus qspsAndC_8u_I(Qsp8u val, Qsp8u* pSrcDst, int len);
+QspStatus qspsAndC_16u(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len);
+QspStatus qspsAndC_16u_I(Qsp16u val, Qsp16u* pSrcDst, int len);
+QspStatus qspsAndC_32u(const Qsp32u* pSrc, Qsp32u val, Qsp32u* pDst, int len);
+QspStatus qspsAndC_32u_I(Qsp32u val, Qsp32u* pSrcDst, int len);
+
+/* Or ---------------------------------------------------------------------- */
+/*
+ * Bitwise or: pDst[i] = pSrc1[i] | pSrc2[i] (in place pSrcDst[i] |= pSrc[i]);
+ * the OrC forms take a constant: pDst[i] = pSrc[i] | val.
+ */
+QspStatus qspsOr_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsOr_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsOr_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsOr_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsOr_32u(const Qsp32u* pSrc1, const Qsp32u* pSrc2, Qsp32u* pDst, int len);
+QspStatus qspsOr_32u_I(const Qsp32u* pSrc, Qsp32u* pSrcDst, int len);
+QspStatus qspsOrC_8u(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len);
+QspStatus qspsOrC_8u_I(Qsp8u val, Qsp8u* pSrcDst, int len);
+QspStatus qspsOrC_16u(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len);
+QspStatus qspsOrC_16u_I(Qsp16u val, Qsp16u* pSrcDst, int len);
+QspStatus qspsOrC_32u(const Qsp32u* pSrc, Qsp32u val, Qsp32u* pDst, int len);
+QspStatus qspsOrC_32u_I(Qsp32u val, Qsp32u* pSrcDst, int len);
+
+/* Xor --------------------------------------------------------------------- */
+/*
+ * Bitwise exclusive or: pDst[i] = pSrc1[i] ^ pSrc2[i] (in place pSrcDst[i] ^= pSrc[i]);
+ * the XorC forms take a constant: pDst[i] = pSrc[i] ^ val.
+ */
+QspStatus qspsXor_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsXor_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsXor_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsXor_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsXor_32u(const Qsp32u* pSrc1, const Qsp32u* pSrc2, Qsp32u* pDst, int len);
+QspStatus qspsXor_32u_I(const Qsp32u* pSrc, Qsp32u* pSrcDst, int len);
+QspStatus qspsXorC_8u(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len);
+QspStatus qspsXorC_8u_I(Qsp8u val, Qsp8u* pSrcDst, int len);
+QspStatus qspsXorC_16u(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len);
+QspStatus qspsXorC_16u_I(Qsp16u val, Qsp16u* pSrcDst, int len);
+QspStatus qspsXorC_32u(const Qsp32u* pSrc, Qsp32u val, Qsp32u* pDst, int len);
+QspStatus qspsXorC_32u_I(Qsp32u val, Qsp32u* pSrcDst, int len);
+
+/* Not --------------------------------------------------------------------- */
+/*
+ * Bitwise complement: pDst[i] = ~pSrc[i]; in place on pSrcDst.
+ */
+QspStatus qspsNot_8u(const Qsp8u* pSrc, Qsp8u* pDst, int len);
+QspStatus qspsNot_8u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsNot_16u(const Qsp16u* pSrc, Qsp16u* pDst, int len);
+QspStatus qspsNot_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsNot_32u(const Qsp32u* pSrc, Qsp32u* pDst, int len);
+QspStatus qspsNot_32u_I(Qsp32u* pSrcDst, int len);
+
+/* LShiftC ----------------------------------------------------------------- */
+/*
+ * Shifts every element left by val bits: pDst[i] = pSrc[i] << val (in place on
+ * pSrcDst). A shift of 0 is a copy and a shift of the element width or more
+ * gives zeros; both are decided before the other checks, the copy or zero fill
+ * then checking the pointers itself. A negative val gives qspStsBadShift after
+ * the pointer and length checks.
+ */
+QspStatus qspsLShiftC_8u(const Qsp8u* pSrc, int val, Qsp8u* pDst, int len);
+QspStatus qspsLShiftC_8u_I(int val, Qsp8u* pSrcDst, int len);
+QspStatus qspsLShiftC_16s(const Qsp16s* pSrc, int val, Qsp16s* pDst, int len);
+QspStatus qspsLShiftC_16s_I(int val, Qsp16s* pSrcDst, int len);
+QspStatus qspsLShiftC_16u(const Qsp16u* pSrc, int val, Qsp16u* pDst, int len);
+QspStatus qspsLShiftC_16u_I(int val, Qsp16u* pSrcDst, int len);
+QspStatus qspsLShiftC_32s(const Qsp32s* pSrc, int val, Qsp32s* pDst, int len);
+QspStatus qspsLShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
+
+/* RShiftC ----------------------------------------------------------------- */
+/*
+ * Shifts every element right by val bits: pDst[i] = pSrc[i] >> val (in place
+ * on pSrcDst), arithmetic for signed types, logical for unsigned ones. A shift
+ * of 0 is a copy; a shift of the element width or more gives zeros for
+ * unsigned types and the sign (0 or -1) for signed ones. Both are decided
+ * before the other checks, as in LShiftC. A negative val gives qspStsBadShift
+ * after the pointer and length checks.
+ */
+QspStatus qspsRShiftC_8u(const Qsp8u* pSrc, int val, Qsp8u* pDst, int len);
+QspStatus qspsRShiftC_8u_I(int val, Qsp8u* pSrcDst, int len);
+QspStatus qspsRShiftC_16s(const Qsp16s* pSrc, int val, Qsp16s* pDst, int len);
+QspStatus qspsRShiftC_16s_I(int val, Qsp16s* pSrcDst, int len);
+QspStatus qspsRShiftC_16u(const Qsp16u* pSrc, int val, Qsp16u* pDst, int len);
+QspStatus qspsRShiftC_16u_I(int val, Qsp16u* pSrcDst, int len);
+QspStatus qspsRShiftC_32s(const Qsp32s* pSrc, int val, Qsp32s* pDst, int len);
+QspStatus qspsRShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
+
 #ifdef __cplusplus
 }
 #endif
