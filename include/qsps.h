@@ -784,6 +784,121 @@ QspStatus qspsDivCRev_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
 
+/* Threshold --------------------------------------------------------------- */
+/*
+ * Clamps elements against a level. Threshold_T with relOp qspCmpLess (0):
+ * pDst[i] = max(pSrc[i], level); with qspCmpGreater (4): min(pSrc[i], level);
+ * any other relOp gives qspStsBadArgument. LT/GT: the same with the comparison
+ * fixed. LTVal/GTVal: elements below (above) level are replaced by value.
+ * LTAbs/GTAbs: elements whose magnitude is below (above) level get magnitude
+ * level, keeping their sign. LTAbsVal: elements whose magnitude is below level
+ * become value. LTInv: pDst[i] = 1/pSrc[i], with magnitudes below level taken
+ * as level (a zero level with a zero element gives the warning
+ * qspStsWarnDivByZero). LTValGTVal: below levelLT becomes valueLT, above
+ * levelGT becomes valueGT; levelLT above levelGT gives qspStsBadThreshold.
+ * Complex forms compare magnitudes and keep the phase. A negative level of an
+ * Abs or Inv form gives qspStsBadThreshold. _L forms of LTAbs chunk as Add
+ * does.
+ */
+QspStatus qspsThreshold_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, QspCmpOp relOp);
+QspStatus qspsThreshold_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, QspCmpOp relOp);
+QspStatus qspsThreshold_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_LT_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LT_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LT_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LT_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LT_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LT_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LT_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LT_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GT_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GT_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GT_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GT_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTVal_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_LTVal_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_LTVal_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_LTVal_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_GTVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_GTVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_GTVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_GTVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_GTVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_GTVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_GTVal_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_GTVal_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_GTVal_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_GTVal_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_LTAbs_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LTAbs_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LTAbs_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LTAbs_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LTAbs_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTAbs_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTAbs_32f_L(const Qsp32f* pSrc, Qsp32f* pDst, Qsp64s len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_64f_L(const Qsp64f* pSrc, Qsp64f* pDst, Qsp64s len, Qsp64f level);
+QspStatus qspsThreshold_LTAbs_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp64f level);
+QspStatus qspsThreshold_GTAbs_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GTAbs_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GTAbs_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GTAbs_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GTAbs_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GTAbs_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GTAbs_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GTAbs_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTAbsVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTAbsVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTAbsVal_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level, Qsp32s value);
+QspStatus qspsThreshold_LTAbsVal_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level, Qsp32s value);
+QspStatus qspsThreshold_LTAbsVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTAbsVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTAbsVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTAbsVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTInv_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTInv_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTInv_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTInv_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTValGTVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s levelLT, Qsp16s valueLT, Qsp16s levelGT, Qsp16s valueGT);
+QspStatus qspsThreshold_LTValGTVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s levelLT, Qsp16s valueLT, Qsp16s levelGT, Qsp16s valueGT);
+QspStatus qspsThreshold_LTValGTVal_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s levelLT, Qsp32s valueLT, Qsp32s levelGT, Qsp32s valueGT);
+QspStatus qspsThreshold_LTValGTVal_32s_I(Qsp32s* pSrcDst, int len, Qsp32s levelLT, Qsp32s valueLT, Qsp32s levelGT, Qsp32s valueGT);
+QspStatus qspsThreshold_LTValGTVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f levelLT, Qsp32f valueLT, Qsp32f levelGT, Qsp32f valueGT);
+QspStatus qspsThreshold_LTValGTVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f levelLT, Qsp32f valueLT, Qsp32f levelGT, Qsp32f valueGT);
+QspStatus qspsThreshold_LTValGTVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f levelLT, Qsp64f valueLT, Qsp64f levelGT, Qsp64f valueGT);
+QspStatus qspsThreshold_LTValGTVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f levelLT, Qsp64f valueLT, Qsp64f levelGT, Qsp64f valueGT);
+
 /* And --------------------------------------------------------------------- */
 /*
  * Bitwise and: pDst[i] = pSrc1[i] & pSrc2[i] (in place pSrcDst[i] &= pSrc[i]);
