@@ -784,6 +784,55 @@ QspStatus qspsDivCRev_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
 
+/* Convert ----------------------------------------------------------------- */
+/*
+ * Converts between element types, source code first: pDst[i] = pSrc[i] in the
+ * destination type. Widening conversions are exact. Narrowing integer and
+ * float-to-integer forms (Sfs) multiply by 2^-scaleFactor, round as rndMode
+ * says (0 toward zero, 1 to nearest even, 2 to nearest with ties away from
+ * zero; above 2 gives qspStsBadRoundMode) and saturate; integer-to-float Sfs
+ * forms only scale. 16f is IEEE half precision; 24u/24s elements are three
+ * bytes, least significant first, so those vectors hold 3*len bytes.
+ */
+QspStatus qspsConvert_8s16s(const Qsp8s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsConvert_8s32f(const Qsp8s* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_8u32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_16s32s(const Qsp16s* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsConvert_16s32f(const Qsp16s* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_16s64f(const Qsp16s* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_16u32f(const Qsp16u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_32s16s(const Qsp32s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsConvert_32s32f(const Qsp32s* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_32s64f(const Qsp32s* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_32f64f(const Qsp32f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_64f32f(const Qsp64f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_64s64f(const Qsp64s* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_16f32f(const Qsp16f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_24u32u(const Qsp8u* pSrc, Qsp32u* pDst, int len);
+QspStatus qspsConvert_24s32s(const Qsp8u* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsConvert_24u32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_24s32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_16s16f(const Qsp16s* pSrc, Qsp16f* pDst, int len, QspRoundMode rndMode);
+QspStatus qspsConvert_32f16f(const Qsp32f* pSrc, Qsp16f* pDst, int len, QspRoundMode rndMode);
+QspStatus qspsConvert_16f16s_Sfs(const Qsp16f* pSrc, Qsp16s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f8s_Sfs(const Qsp32f* pSrc, Qsp8s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f8u_Sfs(const Qsp32f* pSrc, Qsp8u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f16s_Sfs(const Qsp32f* pSrc, Qsp16s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f16u_Sfs(const Qsp32f* pSrc, Qsp16u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f24s_Sfs(const Qsp32f* pSrc, Qsp8u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f24u_Sfs(const Qsp32f* pSrc, Qsp8u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f32s_Sfs(const Qsp32f* pSrc, Qsp32s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_64f16s_Sfs(const Qsp64f* pSrc, Qsp16s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_64f32s_Sfs(const Qsp64f* pSrc, Qsp32s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_64f64s_Sfs(const Qsp64f* pSrc, Qsp64s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32s16s_Sfs(const Qsp32s* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_64s32s_Sfs(const Qsp64s* pSrc, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32u24u_Sfs(const Qsp32u* pSrc, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32s24s_Sfs(const Qsp32s* pSrc, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_16s32f_Sfs(const Qsp16s* pSrc, Qsp32f* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32s32f_Sfs(const Qsp32s* pSrc, Qsp32f* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32s64f_Sfs(const Qsp32s* pSrc, Qsp64f* pDst, int len, int scaleFactor);
+
 /* Threshold --------------------------------------------------------------- */
 /*
  * Clamps elements against a level. Threshold_T with relOp qspCmpLess (0):
