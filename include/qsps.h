@@ -494,6 +494,20 @@ QspStatus qspsSubCRev_32fc_I_L(Qsp32fc val, Qsp32fc* pSrcDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_L(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, Qsp64s len);
 QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
 
+/* AddProduct -------------------------------------------------------------- */
+/*
+ * Accumulates a product: pSrcDst[i] += pSrc1[i] * pSrc2[i] (complex: the
+ * complex product). Integer forms scale and saturate the new sum as Add does
+ * (the product and the old value are added exactly before scaling).
+ */
+QspStatus qspsAddProduct_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pSrcDst, int len);
+QspStatus qspsAddProduct_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pSrcDst, int len);
+QspStatus qspsAddProduct_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pSrcDst, int len);
+QspStatus qspsAddProduct_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pSrcDst, int len);
+QspStatus qspsAddProduct_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddProduct_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, Qsp32s* pSrcDst, int len, int scaleFactor);
+QspStatus qspsAddProduct_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32s* pSrcDst, int len, int scaleFactor);
+
 /* Sqr --------------------------------------------------------------------- */
 /*
  * Square: pDst[i] = pSrc[i]^2 (complex: the complex square); in place on
@@ -605,6 +619,69 @@ QspStatus qspsRealToCplx_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64fc
 QspStatus qspsRealToCplx_32f_L(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32fc* pDst, Qsp64s len);
 QspStatus qspsRealToCplx_64f_L(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64fc* pDst, Qsp64s len);
 
+/* Magnitude --------------------------------------------------------------- */
+/*
+ * Magnitude of complex elements: pDst[i] = sqrt(re^2 + im^2), from an
+ * interleaved complex vector (pSrc) or from separate parts (pSrcRe, pSrcIm).
+ * 16sc and 32sc forms: 16sc32f writes floats, Sfs forms scale, round and saturate.
+ * _L forms chunk as Add does.
+ */
+QspStatus qspsMagnitude_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsMagnitude_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsMagnitude_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDst, int len);
+QspStatus qspsMagnitude_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDst, int len);
+QspStatus qspsMagnitude_16sc32f(const Qsp16sc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsMagnitude_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsMagnitude_32sc_Sfs(const Qsp32sc* pSrc, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsMagnitude_32fc_L(const Qsp32fc* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsMagnitude_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDst, Qsp64s len);
+
+/* Phase ------------------------------------------------------------------- */
+/*
+ * Phase angle of complex elements: pDst[i] = atan2(im, re) in radians, in
+ * (-pi, pi]; from an interleaved vector (pSrc) or from separate parts (pSrcRe,
+ * pSrcIm). The Sfs form scale the angle by 2^-scaleFactor before rounding.
+ */
+QspStatus qspsPhase_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsPhase_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsPhase_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDst, int len);
+QspStatus qspsPhase_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDst, int len);
+QspStatus qspsPhase_16sc32f(const Qsp16sc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsPhase_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+
+/* PowerSpectr ------------------------------------------------------------- */
+/*
+ * Power of complex elements: pDst[i] = re^2 + im^2, from an interleaved vector
+ * (pSrc) or from separate parts (pSrcRe, pSrcIm). Sfs forms scale, round and saturate. _L forms
+ * chunk as Add does.
+ */
+QspStatus qspsPowerSpectr_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsPowerSpectr_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsPowerSpectr_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDst, int len);
+QspStatus qspsPowerSpectr_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDst, int len);
+QspStatus qspsPowerSpectr_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsPowerSpectr_32fc_L(const Qsp32fc* pSrc, Qsp32f* pDst, Qsp64s len);
+QspStatus qspsPowerSpectr_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDst, Qsp64s len);
+
+/* Normalize --------------------------------------------------------------- */
+/*
+ * Shifts and scales: pDst[i] = (pSrc[i] - vSub) / vDiv; in place on pSrcDst.
+ * vDiv equal to zero gives qspStsZeroDivisor. The 16-bit forms compute
+ * exactly, then scale by 2^-scaleFactor, round and saturate.
+ */
+QspStatus qspsNormalize_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_32f_I(Qsp32f* pSrcDst, int len, Qsp32f vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_64f_I(Qsp64f* pSrcDst, int len, Qsp64f vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32fc vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32fc vSub, Qsp32f vDiv);
+QspStatus qspsNormalize_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64fc vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64fc vSub, Qsp64f vDiv);
+QspStatus qspsNormalize_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s vSub, int vDiv, int scaleFactor);
+QspStatus qspsNormalize_16s_ISfs(Qsp16s* pSrcDst, int len, Qsp16s vSub, int vDiv, int scaleFactor);
+QspStatus qspsNormalize_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, Qsp16sc vSub, int vDiv, int scaleFactor);
+QspStatus qspsNormalize_16sc_ISfs(Qsp16sc* pSrcDst, int len, Qsp16sc vSub, int vDiv, int scaleFactor);
+
 /* Div --------------------------------------------------------------------- */
 /*
  * Element-wise quotient, second source divided by the first: pDst[i] =
@@ -706,6 +783,270 @@ QspStatus qspsDivCRev_32f_L(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, Qsp64s
 QspStatus qspsDivCRev_32f_I_L(Qsp32f val, Qsp32f* pSrcDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_L(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, Qsp64s len);
 QspStatus qspsDivCRev_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
+
+/* Convert ----------------------------------------------------------------- */
+/*
+ * Converts between element types, source code first: pDst[i] = pSrc[i] in the
+ * destination type. Widening conversions are exact. Narrowing integer and
+ * float-to-integer forms (Sfs) multiply by 2^-scaleFactor, round as rndMode
+ * says (0 toward zero, 1 to nearest even, 2 to nearest with ties away from
+ * zero; above 2 gives qspStsBadRoundMode) and saturate; integer-to-float Sfs
+ * forms only scale. 16f is IEEE half precision; 24u/24s elements are three
+ * bytes, least significant first, so those vectors hold 3*len bytes.
+ */
+QspStatus qspsConvert_8s16s(const Qsp8s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsConvert_8s32f(const Qsp8s* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_8u32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_16s32s(const Qsp16s* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsConvert_16s32f(const Qsp16s* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_16s64f(const Qsp16s* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_16u32f(const Qsp16u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_32s16s(const Qsp32s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsConvert_32s32f(const Qsp32s* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_32s64f(const Qsp32s* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_32f64f(const Qsp32f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_64f32f(const Qsp64f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_64s64f(const Qsp64s* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_16f32f(const Qsp16f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_24u32u(const Qsp8u* pSrc, Qsp32u* pDst, int len);
+QspStatus qspsConvert_24s32s(const Qsp8u* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsConvert_24u32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_24s32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_16s16f(const Qsp16s* pSrc, Qsp16f* pDst, int len, QspRoundMode rndMode);
+QspStatus qspsConvert_32f16f(const Qsp32f* pSrc, Qsp16f* pDst, int len, QspRoundMode rndMode);
+QspStatus qspsConvert_16f16s_Sfs(const Qsp16f* pSrc, Qsp16s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f8s_Sfs(const Qsp32f* pSrc, Qsp8s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f8u_Sfs(const Qsp32f* pSrc, Qsp8u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f16s_Sfs(const Qsp32f* pSrc, Qsp16s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f16u_Sfs(const Qsp32f* pSrc, Qsp16u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f24s_Sfs(const Qsp32f* pSrc, Qsp8u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f24u_Sfs(const Qsp32f* pSrc, Qsp8u* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32f32s_Sfs(const Qsp32f* pSrc, Qsp32s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_64f16s_Sfs(const Qsp64f* pSrc, Qsp16s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_64f32s_Sfs(const Qsp64f* pSrc, Qsp32s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_64f64s_Sfs(const Qsp64f* pSrc, Qsp64s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
+QspStatus qspsConvert_32s16s_Sfs(const Qsp32s* pSrc, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_64s32s_Sfs(const Qsp64s* pSrc, Qsp32s* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32u24u_Sfs(const Qsp32u* pSrc, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32s24s_Sfs(const Qsp32s* pSrc, Qsp8u* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_16s32f_Sfs(const Qsp16s* pSrc, Qsp32f* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32s32f_Sfs(const Qsp32s* pSrc, Qsp32f* pDst, int len, int scaleFactor);
+QspStatus qspsConvert_32s64f_Sfs(const Qsp32s* pSrc, Qsp64f* pDst, int len, int scaleFactor);
+
+/* Threshold --------------------------------------------------------------- */
+/*
+ * Clamps elements against a level. Threshold_T with relOp qspCmpLess (0):
+ * pDst[i] = max(pSrc[i], level); with qspCmpGreater (4): min(pSrc[i], level);
+ * any other relOp gives qspStsBadArgument. LT/GT: the same with the comparison
+ * fixed. LTVal/GTVal: elements below (above) level are replaced by value.
+ * LTAbs/GTAbs: elements whose magnitude is below (above) level get magnitude
+ * level, keeping their sign. LTAbsVal: elements whose magnitude is below level
+ * become value. LTInv: pDst[i] = 1/pSrc[i], with magnitudes below level taken
+ * as level (a zero level with a zero element gives the warning
+ * qspStsWarnDivByZero). LTValGTVal: below levelLT becomes valueLT, above
+ * levelGT becomes valueGT; levelLT above levelGT gives qspStsBadThreshold.
+ * Complex forms compare magnitudes and keep the phase. A negative level of an
+ * Abs or Inv form gives qspStsBadThreshold. _L forms of LTAbs chunk as Add
+ * does.
+ */
+QspStatus qspsThreshold_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, QspCmpOp relOp);
+QspStatus qspsThreshold_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, QspCmpOp relOp);
+QspStatus qspsThreshold_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level, QspCmpOp relOp);
+QspStatus qspsThreshold_LT_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LT_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LT_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LT_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LT_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LT_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LT_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LT_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LT_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GT_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GT_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GT_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GT_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GT_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GT_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTVal_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_LTVal_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_LTVal_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_LTVal_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_GTVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_GTVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_GTVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_GTVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_GTVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_GTVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_GTVal_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_GTVal_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level, Qsp32fc value);
+QspStatus qspsThreshold_GTVal_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_GTVal_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level, Qsp64fc value);
+QspStatus qspsThreshold_LTAbs_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LTAbs_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_LTAbs_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LTAbs_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_LTAbs_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTAbs_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTAbs_32f_L(const Qsp32f* pSrc, Qsp32f* pDst, Qsp64s len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp32f level);
+QspStatus qspsThreshold_LTAbs_64f_L(const Qsp64f* pSrc, Qsp64f* pDst, Qsp64s len, Qsp64f level);
+QspStatus qspsThreshold_LTAbs_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp64f level);
+QspStatus qspsThreshold_GTAbs_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GTAbs_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level);
+QspStatus qspsThreshold_GTAbs_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GTAbs_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level);
+QspStatus qspsThreshold_GTAbs_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GTAbs_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_GTAbs_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_GTAbs_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTAbsVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTAbsVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, Qsp16s value);
+QspStatus qspsThreshold_LTAbsVal_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s level, Qsp32s value);
+QspStatus qspsThreshold_LTAbsVal_32s_I(Qsp32s* pSrcDst, int len, Qsp32s level, Qsp32s value);
+QspStatus qspsThreshold_LTAbsVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTAbsVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level, Qsp32f value);
+QspStatus qspsThreshold_LTAbsVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTAbsVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level, Qsp64f value);
+QspStatus qspsThreshold_LTInv_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_32f_I(Qsp32f* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTInv_64f_I(Qsp64f* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTInv_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f level);
+QspStatus qspsThreshold_LTInv_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTInv_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f level);
+QspStatus qspsThreshold_LTValGTVal_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s levelLT, Qsp16s valueLT, Qsp16s levelGT, Qsp16s valueGT);
+QspStatus qspsThreshold_LTValGTVal_16s_I(Qsp16s* pSrcDst, int len, Qsp16s levelLT, Qsp16s valueLT, Qsp16s levelGT, Qsp16s valueGT);
+QspStatus qspsThreshold_LTValGTVal_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, Qsp32s levelLT, Qsp32s valueLT, Qsp32s levelGT, Qsp32s valueGT);
+QspStatus qspsThreshold_LTValGTVal_32s_I(Qsp32s* pSrcDst, int len, Qsp32s levelLT, Qsp32s valueLT, Qsp32s levelGT, Qsp32s valueGT);
+QspStatus qspsThreshold_LTValGTVal_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f levelLT, Qsp32f valueLT, Qsp32f levelGT, Qsp32f valueGT);
+QspStatus qspsThreshold_LTValGTVal_32f_I(Qsp32f* pSrcDst, int len, Qsp32f levelLT, Qsp32f valueLT, Qsp32f levelGT, Qsp32f valueGT);
+QspStatus qspsThreshold_LTValGTVal_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f levelLT, Qsp64f valueLT, Qsp64f levelGT, Qsp64f valueGT);
+QspStatus qspsThreshold_LTValGTVal_64f_I(Qsp64f* pSrcDst, int len, Qsp64f levelLT, Qsp64f valueLT, Qsp64f levelGT, Qsp64f valueGT);
+
+/* And --------------------------------------------------------------------- */
+/*
+ * Bitwise and: pDst[i] = pSrc1[i] & pSrc2[i] (in place pSrcDst[i] &= pSrc[i]);
+ * the AndC forms take a constant: pDst[i] = pSrc[i] & val.
+ */
+QspStatus qspsAnd_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsAnd_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsAnd_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsAnd_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsAnd_32u(const Qsp32u* pSrc1, const Qsp32u* pSrc2, Qsp32u* pDst, int len);
+QspStatus qspsAnd_32u_I(const Qsp32u* pSrc, Qsp32u* pSrcDst, int len);
+QspStatus qspsAndC_8u(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len);
+QspStatus qspsAndC_8u_I(Qsp8u val, Qsp8u* pSrcDst, int len);
+QspStatus qspsAndC_16u(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len);
+QspStatus qspsAndC_16u_I(Qsp16u val, Qsp16u* pSrcDst, int len);
+QspStatus qspsAndC_32u(const Qsp32u* pSrc, Qsp32u val, Qsp32u* pDst, int len);
+QspStatus qspsAndC_32u_I(Qsp32u val, Qsp32u* pSrcDst, int len);
+
+/* Or ---------------------------------------------------------------------- */
+/*
+ * Bitwise or: pDst[i] = pSrc1[i] | pSrc2[i] (in place pSrcDst[i] |= pSrc[i]);
+ * the OrC forms take a constant: pDst[i] = pSrc[i] | val.
+ */
+QspStatus qspsOr_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsOr_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsOr_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsOr_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsOr_32u(const Qsp32u* pSrc1, const Qsp32u* pSrc2, Qsp32u* pDst, int len);
+QspStatus qspsOr_32u_I(const Qsp32u* pSrc, Qsp32u* pSrcDst, int len);
+QspStatus qspsOrC_8u(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len);
+QspStatus qspsOrC_8u_I(Qsp8u val, Qsp8u* pSrcDst, int len);
+QspStatus qspsOrC_16u(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len);
+QspStatus qspsOrC_16u_I(Qsp16u val, Qsp16u* pSrcDst, int len);
+QspStatus qspsOrC_32u(const Qsp32u* pSrc, Qsp32u val, Qsp32u* pDst, int len);
+QspStatus qspsOrC_32u_I(Qsp32u val, Qsp32u* pSrcDst, int len);
+
+/* Xor --------------------------------------------------------------------- */
+/*
+ * Bitwise exclusive or: pDst[i] = pSrc1[i] ^ pSrc2[i] (in place pSrcDst[i] ^= pSrc[i]);
+ * the XorC forms take a constant: pDst[i] = pSrc[i] ^ val.
+ */
+QspStatus qspsXor_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsXor_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsXor_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsXor_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsXor_32u(const Qsp32u* pSrc1, const Qsp32u* pSrc2, Qsp32u* pDst, int len);
+QspStatus qspsXor_32u_I(const Qsp32u* pSrc, Qsp32u* pSrcDst, int len);
+QspStatus qspsXorC_8u(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len);
+QspStatus qspsXorC_8u_I(Qsp8u val, Qsp8u* pSrcDst, int len);
+QspStatus qspsXorC_16u(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len);
+QspStatus qspsXorC_16u_I(Qsp16u val, Qsp16u* pSrcDst, int len);
+QspStatus qspsXorC_32u(const Qsp32u* pSrc, Qsp32u val, Qsp32u* pDst, int len);
+QspStatus qspsXorC_32u_I(Qsp32u val, Qsp32u* pSrcDst, int len);
+
+/* Not --------------------------------------------------------------------- */
+/*
+ * Bitwise complement: pDst[i] = ~pSrc[i]; in place on pSrcDst.
+ */
+QspStatus qspsNot_8u(const Qsp8u* pSrc, Qsp8u* pDst, int len);
+QspStatus qspsNot_8u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsNot_16u(const Qsp16u* pSrc, Qsp16u* pDst, int len);
+QspStatus qspsNot_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsNot_32u(const Qsp32u* pSrc, Qsp32u* pDst, int len);
+QspStatus qspsNot_32u_I(Qsp32u* pSrcDst, int len);
+
+/* LShiftC ----------------------------------------------------------------- */
+/*
+ * Shifts every element left by val bits: pDst[i] = pSrc[i] << val (in place on
+ * pSrcDst). A shift of 0 is a copy and a shift of the element width or more
+ * gives zeros; both are decided before the other checks, the copy or zero fill
+ * then checking the pointers itself. A negative val gives qspStsBadShift after
+ * the pointer and length checks.
+ */
+QspStatus qspsLShiftC_8u(const Qsp8u* pSrc, int val, Qsp8u* pDst, int len);
+QspStatus qspsLShiftC_8u_I(int val, Qsp8u* pSrcDst, int len);
+QspStatus qspsLShiftC_16s(const Qsp16s* pSrc, int val, Qsp16s* pDst, int len);
+QspStatus qspsLShiftC_16s_I(int val, Qsp16s* pSrcDst, int len);
+QspStatus qspsLShiftC_16u(const Qsp16u* pSrc, int val, Qsp16u* pDst, int len);
+QspStatus qspsLShiftC_16u_I(int val, Qsp16u* pSrcDst, int len);
+QspStatus qspsLShiftC_32s(const Qsp32s* pSrc, int val, Qsp32s* pDst, int len);
+QspStatus qspsLShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
+
+/* RShiftC ----------------------------------------------------------------- */
+/*
+ * Shifts every element right by val bits: pDst[i] = pSrc[i] >> val (in place
+ * on pSrcDst), arithmetic for signed types, logical for unsigned ones. A shift
+ * of 0 is a copy; a shift of the element width or more gives zeros for
+ * unsigned types and the sign (0 or -1) for signed ones. Both are decided
+ * before the other checks, as in LShiftC. A negative val gives qspStsBadShift
+ * after the pointer and length checks.
+ */
+QspStatus qspsRShiftC_8u(const Qsp8u* pSrc, int val, Qsp8u* pDst, int len);
+QspStatus qspsRShiftC_8u_I(int val, Qsp8u* pSrcDst, int len);
+QspStatus qspsRShiftC_16s(const Qsp16s* pSrc, int val, Qsp16s* pDst, int len);
+QspStatus qspsRShiftC_16s_I(int val, Qsp16s* pSrcDst, int len);
+QspStatus qspsRShiftC_16u(const Qsp16u* pSrc, int val, Qsp16u* pDst, int len);
+QspStatus qspsRShiftC_16u_I(int val, Qsp16u* pSrcDst, int len);
+QspStatus qspsRShiftC_32s(const Qsp32s* pSrc, int val, Qsp32s* pDst, int len);
+QspStatus qspsRShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
 
 /* FFTGetSize -------------------------------------------------------------- */
 /*

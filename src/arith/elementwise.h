@@ -76,6 +76,10 @@ R widen4(const S* p)
         Qsp32s bits;
         __builtin_memcpy(&bits, p, 4);
         return _mm_cvtepu8_epi32(_mm_cvtsi32_si128(bits));
+    } else if constexpr (std::is_same_v<S, Qsp16sc>) {
+        // Four complex elements: one register of interleaved 16-bit parts,
+        // which the operation combines into one 32-bit lane per element.
+        return _mm_loadu_si128(reinterpret_cast<const R*>(p));
     } else {
         static_assert(std::is_same_v<S, Qsp8s>);
         Qsp32s bits;

@@ -153,9 +153,9 @@ struct WithConst {
         else return ops::BindSecond<Op, T, V>{Op{}, val, V::splat(val)};
     }
 
-    // Floating, real or complex.
+    // Without scaling: floating (real or complex), bitwise.
     template <class T>
-    static QspStatus floating(const T* pSrc, T val, T* pDst, int len)
+    static QspStatus unscaled(const T* pSrc, T val, T* pDst, int len)
     {
         return v(pSrc, pDst, len, bound(val));
     }

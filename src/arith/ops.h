@@ -170,6 +170,26 @@ struct Div {
     W one(W a, W b) const { return W(b / a); }
 };
 
+// Bitwise operations on integer registers of any lane width.
+struct BitAnd {
+    template <class R>
+    R reg(R a, R b) const { return _mm_and_si128(a, b); }
+    template <class W>
+    W one(W a, W b) const { return W(a & b); }
+};
+struct BitOr {
+    template <class R>
+    R reg(R a, R b) const { return _mm_or_si128(a, b); }
+    template <class W>
+    W one(W a, W b) const { return W(a | b); }
+};
+struct BitXor {
+    template <class R>
+    R reg(R a, R b) const { return _mm_xor_si128(a, b); }
+    template <class W>
+    W one(W a, W b) const { return W(a ^ b); }
+};
+
 // An operation with one operand fixed: Second binds op(x, c), First binds
 // op(c, x). The constant's register is prepared once, with the kernel.
 // V is the vector traits of the register.

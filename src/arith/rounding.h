@@ -26,6 +26,15 @@ constexpr double pow2(int e)
     return __builtin_bit_cast(double, Qsp64u(e + 1023) << 52);
 }
 
+// x * 2^e for any e, exact whenever the result is a normal double (the
+// factor is applied in steps that stay inside the exponent range).
+inline double ldexp(double x, int e)
+{
+    while (e > 1000) x *= pow2(1000), e -= 1000;
+    while (e < -1000) x *= pow2(-1000), e += 1000;
+    return x * pow2(e);
+}
+
 // The factor 2^-scaleFactor. Beyond +-400 every product of finite
 // single-precision values rounds to 0 or saturates, and a double value
 // beyond that range does as well, so the factor is clamped there.

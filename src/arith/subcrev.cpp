@@ -5,14 +5,14 @@ namespace y8 {
 
 using C = forms::WithConst<ops::Sub, false>;
 
-QspStatus qspsSubCRev_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len) { return C::floating(pSrc, val, pDst, len); }
-QspStatus qspsSubCRev_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len) { return C::floating(pSrcDst, val, pSrcDst, len); }
-QspStatus qspsSubCRev_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len) { return C::floating(pSrc, val, pDst, len); }
-QspStatus qspsSubCRev_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len) { return C::floating(pSrcDst, val, pSrcDst, len); }
-QspStatus qspsSubCRev_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len) { return C::floating(pSrc, val, pDst, len); }
-QspStatus qspsSubCRev_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len) { return C::floating(pSrcDst, val, pSrcDst, len); }
-QspStatus qspsSubCRev_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len) { return C::floating(pSrc, val, pDst, len); }
-QspStatus qspsSubCRev_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len) { return C::floating(pSrcDst, val, pSrcDst, len); }
+QspStatus qspsSubCRev_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len) { return C::unscaled(pSrc, val, pDst, len); }
+QspStatus qspsSubCRev_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len) { return C::unscaled(pSrcDst, val, pSrcDst, len); }
+QspStatus qspsSubCRev_64f(const Qsp64f* pSrc, Qsp64f val, Qsp64f* pDst, int len) { return C::unscaled(pSrc, val, pDst, len); }
+QspStatus qspsSubCRev_64f_I(Qsp64f val, Qsp64f* pSrcDst, int len) { return C::unscaled(pSrcDst, val, pSrcDst, len); }
+QspStatus qspsSubCRev_32fc(const Qsp32fc* pSrc, Qsp32fc val, Qsp32fc* pDst, int len) { return C::unscaled(pSrc, val, pDst, len); }
+QspStatus qspsSubCRev_32fc_I(Qsp32fc val, Qsp32fc* pSrcDst, int len) { return C::unscaled(pSrcDst, val, pSrcDst, len); }
+QspStatus qspsSubCRev_64fc(const Qsp64fc* pSrc, Qsp64fc val, Qsp64fc* pDst, int len) { return C::unscaled(pSrc, val, pDst, len); }
+QspStatus qspsSubCRev_64fc_I(Qsp64fc val, Qsp64fc* pSrcDst, int len) { return C::unscaled(pSrcDst, val, pSrcDst, len); }
 
 QspStatus qspsSubCRev_8u_Sfs(const Qsp8u* pSrc, Qsp8u val, Qsp8u* pDst, int len, int scaleFactor)
 {

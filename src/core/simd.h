@@ -268,6 +268,16 @@ struct Vec<Qsp16s> : IntRegOps {
     // Two registers of 32-bit lanes narrowed to 16-bit lanes with signed
     // saturation (a first).
     static Reg packs32(Reg a, Reg b) { return _mm_packs_epi32(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi16(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi16(a, b); }
+    static Reg cmplt(Reg a, Reg b) { return _mm_cmplt_epi16(a, b); }
+    static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi16(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
+    static Reg abs(Reg a) { return _mm_abs_epi16(a); }  // -32768 stays -32768
+    static Reg neg(Reg a) { return _mm_sub_epi16(_mm_setzero_si128(), a); }
+    static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
+    static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }
+    static Reg signBit() { return _mm_set1_epi16(Qsp16s(0x8000)); }
     // Sums of the products of adjacent lane pairs, in 32-bit lanes.
     static Reg madd(Reg a, Reg b) { return _mm_madd_epi16(a, b); }
     // Full 32-bit products of lanes 0..3 and 4..7.
@@ -301,6 +311,11 @@ struct Vec<Qsp32s> : IntRegOps {
     // Magnitudes as unsigned lanes: the most negative value keeps its
     // pattern, 2^31.
     static Reg abs(Reg a) { return _mm_abs_epi32(a); }
+    static Reg cmplt(Reg a, Reg b) { return _mm_cmplt_epi32(a, b); }
+    static Reg neg(Reg a) { return _mm_sub_epi32(_mm_setzero_si128(), a); }
+    static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
+    static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }
+    static Reg signBit() { return _mm_set1_epi32(Qsp32s(0x80000000u)); }
     // a with the sign of b applied: a, -a or 0 as b is positive, negative, 0.
     static Reg sign(Reg a, Reg b) { return _mm_sign_epi32(a, b); }
     // Shift counts held in the low 64 bits of a register (see count()).
