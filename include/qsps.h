@@ -918,6 +918,74 @@ QspStatus qspsSortRadixIndexDescend_64s_L(const Qsp64s* pSrc, Qsp64s* pDstIndx, 
 QspStatus qspsSortRadixIndexDescend_64f(const Qsp64f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
 QspStatus qspsSortRadixIndexDescend_64f_L(const Qsp64f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
 
+/* TopK -------------------------------------------------------------------- */
+/*
+ * The k largest elements in descending order with their indices: pDstValue[j],
+ * pDstIndx[j] for j < k (equal values: lower index first). k below 1 or above
+ * len gives qspStsBadCount. The work buffer's size comes from TopKGetBufferSize
+ * for len, k and the type code.
+ */
+QspStatus qspsTopKGetBufferSize(int len, int k, QspDataType dataType, int* pBufferSize);
+QspStatus qspsTopK_32s(const Qsp32s* pSrc, Qsp32s* pDstValue, int* pDstIndx, int len, int k, Qsp8u* pBuffer);
+QspStatus qspsTopK_32f(const Qsp32f* pSrc, Qsp32f* pDstValue, int* pDstIndx, int len, int k, Qsp8u* pBuffer);
+QspStatus qspsTopK_64f(const Qsp64f* pSrc, Qsp64f* pDstValue, int* pDstIndx, int len, int k, Qsp8u* pBuffer);
+
+/* FindNearest ------------------------------------------------------------- */
+/*
+ * For every element, the nearest entry of an ascending table: pDst[i] =
+ * pTable[j] and pDstIndx[i] = j with |pSrc[i] - pTable[j]| least (ties: the
+ * lower j). tableLen below 1 gives qspStsBadSize. FindNearestOne does it for
+ * one value.
+ */
+QspStatus qspsFindNearest_16u(const Qsp16u* pSrc, const Qsp16u* pTable, Qsp16u* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearest_32s(const Qsp32s* pSrc, const Qsp32s* pTable, Qsp32s* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearest_32f(const Qsp32f* pSrc, const Qsp32f* pTable, Qsp32f* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearest_64f(const Qsp64f* pSrc, const Qsp64f* pTable, Qsp64f* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearestOne_16u(Qsp16u val, const Qsp16u* pTable, Qsp16u* pDst, int* pDstIndx, int tableLen);
+QspStatus qspsFindNearestOne_32f(Qsp32f val, const Qsp32f* pTable, Qsp32f* pDst, int* pDstIndx, int tableLen);
+
+/* CountInRange ------------------------------------------------------------ */
+/*
+ * Counts the elements with lowerBound <= pSrc[i] <= upperBound into *pCount.
+ * lowerBound above upperBound gives qspStsBadRange.
+ */
+QspStatus qspsCountInRange_32s(const Qsp32s* pSrc, int len, int* pCount, Qsp32s lowerBound, Qsp32s upperBound);
+QspStatus qspsCountInRange_32f(const Qsp32f* pSrc, int len, int* pCount, Qsp32f lowerBound, Qsp32f upperBound);
+QspStatus qspsCountInRange_64f(const Qsp64f* pSrc, int len, int* pCount, Qsp64f lowerBound, Qsp64f upperBound);
+
+/* ZeroCrossing ------------------------------------------------------------ */
+/*
+ * Zero-crossing measure of a signal, normalised to [0, 1]: zcType qspZCR (0)
+ * counts sign changes (a zero counts as positive) divided by len-1; qspZCXor
+ * (1) the same with the sign bits of neighbours compared; qspZCC (2) half the
+ * sum of |sign(x[i]) - sign(x[i-1])| divided by len-1. Another zcType gives
+ * qspStsBadArgument; len below 2 gives qspStsBadSize.
+ */
+QspStatus qspsZeroCrossing_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pValZC, QspZCType zcType);
+QspStatus qspsZeroCrossing_32f(const Qsp32f* pSrc, int len, Qsp32f* pValZC, QspZCType zcType);
+QspStatus qspsZeroCrossing_64f(const Qsp64f* pSrc, int len, Qsp64f* pValZC, QspZCType zcType);
+
+/* PatternMatch ------------------------------------------------------------ */
+/*
+ * Slides a pattern along a vector: pDst[i] = the number of positions j <
+ * patternLen where pSrc[i+j] equals pPattern[j] (mode qspPatternMatchEqual, 0)
+ * or the number of differing bits over the window (qspPatternMatchHamming, 1),
+ * for 0 <= i <= len - patternLen. patternLen below 1 gives qspStsBadSize and
+ * above len qspStsBadPatternSize; another mode gives qspStsBadArgument.
+ */
+QspStatus qspsPatternMatch_8u16u(const Qsp8u* pSrc, const Qsp8u* pPattern, Qsp16u* pDst, int len, int patternLen, QspPatternMatchMode mode);
+QspStatus qspsPatternMatch_16u(const Qsp16u* pSrc, const Qsp16u* pPattern, Qsp16u* pDst, int len, int patternLen, QspPatternMatchMode mode);
+
+/* ReplaceNAN -------------------------------------------------------------- */
+/*
+ * Replaces every NaN element (complex: every NaN part) of pSrcDst by value in
+ * place; other elements, infinities included, stay.
+ */
+QspStatus qspsReplaceNAN_32f_I(Qsp32f* pSrcDst, int len, Qsp32f value);
+QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
+QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
+QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
+
 #ifdef __cplusplus
 }
 #endif
