@@ -87,7 +87,8 @@ R widen4(const S* p)
 template <class D>
 constexpr int blockOf = 16 / int(sizeof(D));
 
-// The first n elements of p in a zero-padded block of G.
+// The first n elements of p in a block of G, padded with ones (so that a
+// padding lane never looks like a zero divisor).
 template <class S, int G>
 struct Block {
     S v[G];
@@ -96,7 +97,10 @@ template <int G, class S>
 Block<S, G> gather(const S* p, int n)
 {
     Block<S, G> b{};
-    for (int j = 0; j < n; ++j) b.v[j] = p[j];
+    for (int j = 0; j < G; ++j) {
+        if (j < n) b.v[j] = p[j];
+        else if constexpr (std::is_arithmetic_v<S>) b.v[j] = S(1);
+    }
     return b;
 }
 
@@ -162,6 +166,34 @@ void lanesExact(D* pDst, Qsp64s len, Op op, const S*... pSrc)
     if (i < len) {
         const int n = int(len - i);
         D out[4];
+        block(out, detail::gather<4>(pSrc + i, n).v...);
+        for (int j = 0; j < n; ++j) pDst[i + j] = out[j];
+    }
+}
+
+// Complex 16-bit results: op.reg(a...) takes registers of four complex
+// elements (interleaved 16-bit parts) and sets the exact real and imaginary
+// parts of the four results in 32-bit lanes; they are scaled under the
+// mode, interleaved again and narrowed with saturation. The tail runs
+// through a stack block, as in lanes().
+template <class Op, class Mode, class... S>
+void lanesComplex16(Qsp16sc* pDst, Qsp64s len, Op op, Mode mode, const S*... pSrc)
+{
+    using V32 = simd::Vec<Qsp32s>;
+    using V16 = simd::Vec<Qsp16s>;
+    const auto m = mode.template lanes32Full<Qsp16s>();
+    auto block = [&](Qsp16sc* out, const auto*... in) {
+        detail::R re, im;
+        op.reg(re, im, V16::loadu(in)...);
+        re = m(re);
+        im = m(im);
+        V16::storeu(out, V16::packs32(V32::interleaveLo(re, im), V32::interleaveHi(re, im)));
+    };
+    Qsp64s i = 0;
+    for (; i + 4 <= len; i += 4) block(pDst + i, (pSrc + i)...);
+    if (i < len) {
+        const int n = int(len - i);
+        Qsp16sc out[4];
         block(out, detail::gather<4>(pSrc + i, n).v...);
         for (int j = 0; j < n; ++j) pDst[i + j] = out[j];
     }

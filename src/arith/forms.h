@@ -43,20 +43,6 @@ QspStatus v(const T* pSrc, T* pDst, int len, Op op)
     return qspStsOk;
 }
 
-// Operation objects with a constant bound to one side, register prepared.
-template <class Op, class T>
-auto second(T c)
-{
-    using V = simd::Vec<T>;
-    return ops::BindSecond<Op, T, V>{Op{}, c, V::splat(c)};
-}
-template <class Op, class T>
-auto first(T c)
-{
-    using V = simd::Vec<T>;
-    return ops::BindFirst<Op, T, V>{Op{}, c, V::splat(c)};
-}
-
 // ---------------------------------------------------------------------------
 // _L forms: the ordinary function over chunks.
 
@@ -135,12 +121,12 @@ void runScaled(D* pDst, Qsp64s len, Op op, Mode mode, const S*... pSrc)
     }
 }
 
-// The scale-factor selection for a result range R and destination D, with
-// the zero fill of D's width.
+// The scale-factor selection for a result range R and destination D (its
+// part type for a complex D), with the zero fill of D's width.
 template <ops::Range R, class D, class Kernel>
 QspStatus scaled(int scaleFactor, D* pDst, int len, Kernel kernel)
 {
-    constexpr scaling::Limits lim = scaling::limitsFor<D>(R.lo, R.hi);
+    constexpr scaling::Limits lim = scaling::limitsFor<ops::Part<D>>(R.lo, R.hi);
     return scaling::select(scaleFactor, lim, kernel, [=] { return zeroFill(pDst, len); });
 }
 
@@ -156,22 +142,61 @@ QspStatus vvSfs(const S1* pSrc1, const S2* pSrc2, D* pDst, int len, int scaleFac
     });
 }
 
-// An integer vector and a constant, scaled result. Bind says on which side
-// of the operation the constant stands.
-template <class Op, bool ConstFirst, class S, class D>
-QspStatus vcSfs(const S* pSrc, S val, D* pDst, int len, int scaleFactor)
-{
-    if (QspStatus s = check::vectors(len, pSrc, pDst)) return s;
-    constexpr ops::Range R = ConstFirst ? Op::template range<S, S>() : Op::template range<S, S>();
-    using V32 = simd::Vec<Qsp32s>;
-    const auto creg = V32::splat(Qsp32s(val));
-    return scaled<R>(scaleFactor, pDst, len, [&](auto mode) {
-        if constexpr (ConstFirst)
-            runScaled<R>(pDst, len, ops::BindFirst<Op, Qsp64s, simd::Vec<Qsp32s>>{Op{}, Qsp64s(val), creg}, mode, pSrc);
-        else
-            runScaled<R>(pDst, len, ops::BindSecond<Op, Qsp64s, simd::Vec<Qsp32s>>{Op{}, Qsp64s(val), creg}, mode, pSrc);
-        return qspStsOk;
-    });
-}
+// A vector and a constant: op(x, val) (ConstFirst false) or op(val, x)
+// (ConstFirst true), in every type of the constant families.
+template <class Op, bool ConstFirst>
+struct WithConst {
+    template <class T, class V = simd::Vec<T>>
+    static auto bound(T val)
+    {
+        if constexpr (ConstFirst) return ops::BindFirst<Op, T, V>{Op{}, val, V::splat(val)};
+        else return ops::BindSecond<Op, T, V>{Op{}, val, V::splat(val)};
+    }
+
+    // Floating, real or complex.
+    template <class T>
+    static QspStatus floating(const T* pSrc, T val, T* pDst, int len)
+    {
+        return v(pSrc, pDst, len, bound(val));
+    }
+
+    // Integer with the scale-factor rule. A complex 16-bit constant runs
+    // part-wise in 32-bit lanes with its parts alternating in the register
+    // (blocks start at even parts, so they stay in step).
+    template <class S>
+    static QspStatus scaledInt(const S* pSrc, S val, S* pDst, int len, int scaleFactor)
+    {
+        if (QspStatus s = check::vectors(len, pSrc, pDst)) return s;
+        using P = ops::Part<S>;
+        constexpr ops::Range R = Op::template range<P, P>();
+        return scaled<R>(scaleFactor, pDst, len, [&](auto mode) {
+            using V32 = simd::Vec<Qsp32s>;
+            if constexpr (std::is_same_v<S, Qsp32sc>) {
+                for (int i = 0; i < len; ++i) pDst[i] = {part(pSrc[i].re, val.re, mode), part(pSrc[i].im, val.im, mode)};
+            } else if constexpr (std::is_same_v<S, Qsp16sc>) {
+                static_assert(fitsLanesFull<P>(R), "the alternating constant needs the lane kernels");
+                const V32::Reg c = _mm_setr_epi32(val.re, val.im, val.re, val.im);
+                runScaled<R>(parts(pDst), 2 * Qsp64s(len), bind32(Qsp64s(0), c), mode, parts(pSrc));
+            } else {
+                runScaled<R>(pDst, len, bind32(Qsp64s(val), V32::splat(Qsp32s(val))), mode, pSrc);
+            }
+            return qspStsOk;
+        });
+    }
+
+private:
+    static auto bind32(Qsp64s c, simd::Vec<Qsp32s>::Reg creg)
+    {
+        using V32 = simd::Vec<Qsp32s>;
+        if constexpr (ConstFirst) return ops::BindFirst<Op, Qsp64s, V32>{Op{}, c, creg};
+        else return ops::BindSecond<Op, Qsp64s, V32>{Op{}, c, creg};
+    }
+    template <class P, class Mode>
+    static P part(P x, P c, Mode mode)
+    {
+        const Qsp64s r = ConstFirst ? Op{}.one(Qsp64s(c), Qsp64s(x)) : Op{}.one(Qsp64s(x), Qsp64s(c));
+        return mode.template apply<P>(r);
+    }
+};
 
 }  // namespace forms

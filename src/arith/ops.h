@@ -93,7 +93,7 @@ struct Mul {
     template <class R>
     R reg(R a, R b) const
     {
-        if constexpr (std::is_same_v<R, __m128i>) return VecFor<R>::mullo(a, b);
+        if constexpr (std::is_same_v<VecFor<R>, simd::Vec<Qsp32s>>) return VecFor<R>::mullo(a, b);
         else return VecFor<R>::mul(a, b);
     }
     template <class W>
@@ -104,6 +104,21 @@ struct Mul {
         const Qsp64s p1 = lowest<A> * lowest<B>, p2 = lowest<A> * highest<B>;
         const Qsp64s p3 = highest<A> * lowest<B>, p4 = highest<A> * highest<B>;
         return {min4(p1, p2, p3, p4), max4(p1, p2, p3, p4)};
+    }
+};
+
+// Square of a real element; the result range is that of a product of the
+// value with itself, which is never negative.
+struct Sqr {
+    template <class R>
+    R reg(R a) const { return Mul{}.reg(a, a); }
+    template <class W>
+    W one(W a) const { return W(a * a); }
+    template <class A>
+    static constexpr Range range()
+    {
+        const Qsp64s l = lowest<A> * lowest<A>, h = highest<A> * highest<A>;
+        return {0, l > h ? l : h};
     }
 };
 
@@ -119,6 +134,32 @@ struct CMul {
     }
     template <class C>
     C one(C a, C b) const { return {a.re * b.re - a.im * b.im, a.im * b.re + a.re * b.im}; }
+};
+
+// Complex product of 16sc elements, four per register, into exact parts in
+// 32-bit lanes: re = ar*br - ai*bi (within 32 bits), im = ar*bi + ai*br.
+// im leaves 32 bits only as 2^31 (both factors -32768 - 32768i), which the
+// multiply-add wraps to -2^31; it is replaced by 2^31 - 1, which scales,
+// rounds and saturates to the same 16-bit result at every scale factor.
+struct CMul16 {
+    using R = simd::Vec<Qsp32s>::Reg;
+    void reg(R& re, R& im, R a, R b) const
+    {
+        using V16 = simd::Vec<Qsp16s>;
+        using V32 = simd::Vec<Qsp32s>;
+        re = V32::hsub(V16::mulWideLo(a, b), V16::mulWideHi(a, b));
+        im = V16::madd(a, V16::swapPairs(b));
+        im = V32::add(im, V32::cmpeq(im, V32::splat(Qsp32s(0x80000000u))));
+    }
+    // The exact range of either part.
+    static constexpr Range range() { return {-2147450880ll, 2147483648ll}; }
+};
+
+// The same with a constant second factor, prepared once.
+struct CMulC16 {
+    using R = simd::Vec<Qsp32s>::Reg;
+    R c;
+    void reg(R& re, R& im, R a) const { CMul16{}.reg(re, im, a, c); }
 };
 
 // b / a: the first operand is the divisor.

@@ -71,6 +71,7 @@ constexpr int zerosFrom(Qsp64u maxMagnitude)
 template <class D>
 constexpr int boundFrom()
 {
+    static_assert(std::is_integral_v<D>, "thresholds are per part: pass the part type of a complex type");
     constexpr int bits = int(8 * sizeof(D));
     return bits >= 32 ? bits - 1 : bits;
 }

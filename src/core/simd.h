@@ -13,7 +13,6 @@
 // Arithmetic members are added beside these as kernels need them.
 #pragma once
 #include <nmmintrin.h>
-#include <pmmintrin.h>
 
 #include "qspdefs.h"
 
@@ -142,19 +141,24 @@ struct Vec<float> {
     static Reg swapParts(Reg a) { return _mm_shuffle_ps(a, a, _MM_SHUFFLE(2, 3, 0, 1)); }
     static Reg addsub(Reg a, Reg b) { return _mm_addsub_ps(a, b); }
     static Reg signBit() { return _mm_castsi128_ps(_mm_set1_epi32(int(0x80000000u))); }
-    // One (re, im) pair: repeated in both halves, or alone in the low half
-    // (the pointer need not be aligned); stores of either half.
+    // Halves of two registers of complex pairs, and single pairs.
+    static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
+    static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
+    // One 8-byte pair repeated in both halves (p need not be aligned).
     static Reg loadPairDup(const float* p)
     {
         return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)));
     }
-    static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
-    static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
+    // One 8-byte pair alone in the low half, the high half zero.
     static Reg loadPair(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
-    static void storePair(float* p, Reg r) { _mm_store_sd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
-    static void storeHighPair(float* p, Reg r) { _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castps_pd(r)); }
     static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
     static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
+    // Split and join of complex pairs: evens/odds take the real/imaginary
+    // parts of a0 a1 b0 b1 (as pairs); zipLo/zipHi interleave two registers.
+    static Reg evens(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
+    static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
 };
 
 template <>
@@ -191,10 +195,14 @@ struct Vec<double> {
     static Reg swapParts(Reg a) { return _mm_shuffle_pd(a, a, 1); }
     static Reg addsub(Reg a, Reg b) { return _mm_addsub_pd(a, b); }
     static Reg signBit() { return _mm_castsi128_pd(_mm_set1_epi64x(0x8000000000000000ll)); }
-    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); } // a0, b0
+    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }  // a0, b0
     static Reg highHalves(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); } // a1, b1
     static Reg negOdd(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(0.0, -0.0)); }
     static Reg negEven(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(-0.0, 0.0)); }
+    static Reg evens(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg odds(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
     // Lanes 0, 1 or lanes 2, 3 of a register of floats, widened exactly.
     static Reg widenLow(__m128 f) { return _mm_cvtps_pd(f); }
     static Reg widenHigh(__m128 f) { return _mm_cvtps_pd(_mm_movehl_ps(f, f)); }
@@ -260,6 +268,13 @@ struct Vec<Qsp16s> : IntRegOps {
     // Two registers of 32-bit lanes narrowed to 16-bit lanes with signed
     // saturation (a first).
     static Reg packs32(Reg a, Reg b) { return _mm_packs_epi32(a, b); }
+    // Sums of the products of adjacent lane pairs, in 32-bit lanes.
+    static Reg madd(Reg a, Reg b) { return _mm_madd_epi16(a, b); }
+    // Full 32-bit products of lanes 0..3 and 4..7.
+    static Reg mulWideLo(Reg a, Reg b) { return _mm_unpacklo_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
+    static Reg mulWideHi(Reg a, Reg b) { return _mm_unpackhi_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
+    // Lanes exchanged within each pair (the parts of complex elements).
+    static Reg swapPairs(Reg a) { return _mm_shufflehi_epi16(_mm_shufflelo_epi16(a, 0xB1), 0xB1); }
     static Reg min(Reg a, Reg b) { return _mm_min_epi16(a, b); }
     static Reg max(Reg a, Reg b) { return _mm_max_epi16(a, b); }
     static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
@@ -294,6 +309,11 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg sll(Reg a, Reg n) { return _mm_sll_epi32(a, n); }
     static Reg srl(Reg a, Reg n) { return _mm_srl_epi32(a, n); }
     static Reg srai1(Reg a) { return _mm_srai_epi32(a, 1); }
+    // Differences of adjacent lane pairs: a0-a1, a2-a3, b0-b1, b2-b3.
+    static Reg hsub(Reg a, Reg b) { return _mm_hsub_epi32(a, b); }
+    static Reg hadd(Reg a, Reg b) { return _mm_hadd_epi32(a, b); }
+    static Reg interleaveLo(Reg a, Reg b) { return _mm_unpacklo_epi32(a, b); }
+    static Reg interleaveHi(Reg a, Reg b) { return _mm_unpackhi_epi32(a, b); }
     // Widening of the low or high half of a register of 16-bit lanes.
     static Reg lo16s(Reg a) { return _mm_cvtepi16_epi32(a); }
     static Reg hi16s(Reg a) { return _mm_cvtepi16_epi32(_mm_srli_si128(a, 8)); }

@@ -38,10 +38,10 @@ Qsp8u* fillComplexTables(fft::Record* rec, int order, const fft::Octant<T>& oct,
     }
     if (order < fft::largeFrom(sizeof(T) == 8)) {
         fft::ownsFillPassTwiddles<T>(tw, order, oct);
-        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::passTwiddleCount(Qsp64s(1) << order)));
+        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::passTwiddleCount<T>(Qsp64s(1) << order)));
     }
     fft::ownsFillLargeTwiddles<T>(tw, order, oct);
-    return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::largeTwiddleCount(order)));
+    return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::largeTwiddleCount<T>(order)));
 }
 
 // W_N^k (forward table) and conj(W_N^k) (inverse table), k < N/4.
@@ -99,8 +99,10 @@ QspStatus init(fft::Kind kind, void** ppSpec, int order, int flag, int hint, Qsp
         return qspStsOk;
     }
 
-    fft::Octant<T> oct = fft::builtinOctant<T>(order);
-    if (order > fft::kBuiltinOrder) {
+    fft::Octant<T> oct{};
+    if (order <= fft::kBuiltinOrder) {
+        oct = fft::builtinOctant<T>(order);
+    } else {
         if (pSpecBuffer == nullptr) {
             rec->id = 0;
             return qspStsNullPtr;

@@ -4,8 +4,9 @@
 // Layout inside the caller's block (all offsets from the 64-byte aligned
 // record address):
 //   0    header (128 bytes, below)
-//   128  complex pass twiddles of the medium tier, or the three tables of
-//        the large tier (row passes, column passes, the N-value grid)
+//   128  complex pass twiddles of the medium tier, or the tables of the
+//        large tier (row passes, column passes, the column twiddles as
+//        batch-start and in-batch factors)
 //   then, for the real kinds, the real-recombination table W^k and the
 //        inverse-recombination table conj(W^k), k < N/4; for real single
 //        precision above order 20 each is a coarse table (W^(1024h),

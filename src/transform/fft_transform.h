@@ -6,6 +6,8 @@
 #include "mathfn/half.h"
 #include "qsp_validators.h"
 
+#include <type_traits>
+
 namespace fft {
 
 // ---------------------------------------------------------------- checks
@@ -179,63 +181,165 @@ inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s
     return {T(re), T(im)};
 }
 
-// The recombination tables of a real record, or the built-in values for
-// orders below 5 (which keep no tables).
+// W_16^k, k < 16: the recombination twiddles of the orders below 5, which
+// keep no tables (W_N^k = W_16^(16k/N)).
+template <class T>
+struct RealSmallTwiddles {
+    C<T> w[16];
+};
+
+template <class T>
+constexpr RealSmallTwiddles<T> makeRealSmallTwiddles()
+{
+    RealSmallTwiddles<T> t{};
+    for (int k = 0; k < 16; ++k) {
+        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 16.0);
+        t.w[k] = {T(sc.c), T(sc.s)};
+    }
+    return t;
+}
+
+template <class T>
+inline constexpr RealSmallTwiddles<T> kRealSmall = makeRealSmallTwiddles<T>();
+
+// The recombination twiddle of bin k: W_N^k (forward) or conj(W_N^k)
+// (inverse), from the record's tables or, below order 5, the built-in ones.
 template <class T, bool Inv>
 inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 {
     const Qsp64s n = Qsp64s(1) << order;
     if (order < 5) {
-        const C<T> w = twiddle(builtinOctant<T>(order), k);
+        const C<T> w = kRealSmall<T>.w[k << (4 - order)];
         return Inv ? C<T>{w.re, -w.im} : w;
     }
     return recombTwiddle<T>(rec, static_cast<const C<T>*>(Inv ? rec->recombInv : rec->recomb), k, n);
 }
 
-// Z (the half-length transform of x[2m] + i*x[2m+1]) to the spectrum X in
-// Perm layout, in place.
+// Bins k (ascending, L at a time) and their mirrors N/2 - k (descending) in
+// registers, while both groups stay on their side of N/4; returns the first
+// bin left for the scalar loop. Only for whole tables (not coarse + fine).
+template <class T, bool Inv>
+Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quarter)
+{
+    using K = SV<T>;
+    using V = typename K::V;
+    using X = typename K::X;
+    constexpr Qsp64s L = K::L;
+    const auto halfSplat = V::splat(T(0.5));
+    Qsp64s k = 1;
+    for (; k + L <= quarter; k += L) {
+        C<T>* pk = z + k;
+        C<T>* pm = z + (half - k - (L - 1));
+        const X a = K::template load<true>(pk);
+        X b = K::template load<true>(pm);
+        b = {V::reverse(b.re), V::reverse(b.im)};
+        const X w = K::template load<true>(table + k);
+        X r, m;
+        if constexpr (!Inv) {
+            // E = (Zk + conj Zm)/2, O = -i (Zk - conj Zm)/2, Xk = E + W O, Xm = conj(E - W O)
+            const X e{V::mul(V::add(a.re, b.re), halfSplat), V::mul(V::sub(a.im, b.im), halfSplat)};
+            const X o{V::mul(V::add(a.im, b.im), halfSplat), V::mul(V::sub(b.re, a.re), halfSplat)};
+            const X wo = K::template mul<false>(o, w);
+            r = K::add(e, wo);
+            m = {V::sub(e.re, wo.re), V::sub(wo.im, e.im)};
+        } else {
+            // E = Xk + conj Xm, O = (Xk - conj Xm) w, Zk = E + i O, Zm = conj(E - i O)
+            const X e{V::add(a.re, b.re), V::sub(a.im, b.im)};
+            const X o = K::template mul<false>(X{V::sub(a.re, b.re), V::add(a.im, b.im)}, w);
+            r = {V::sub(e.re, o.im), V::add(e.im, o.re)};
+            m = {V::add(e.re, o.im), V::sub(o.re, e.im)};
+        }
+        K::template store<true>(pk, r);
+        K::template store<true>(pm, X{V::reverse(m.re), V::reverse(m.im)});
+    }
+    return k;
+}
+
+// One bin pair of the forward recombination: from Zk and Zm = Z(N/2-k),
+// E = (Zk + conj Zm)/2, O = -i (Zk - conj Zm)/2, Xk = E + W O and
+// X(N/2-k) = conj(E - W O).
 template <class T>
+inline void recombineBinForward(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
+{
+    const C<T> zk = z[k], zm = z[half - k];
+    const C<T> e{(zk.re + zm.re) * T(0.5), (zk.im - zm.im) * T(0.5)};
+    const C<T> o{(zk.im + zm.im) * T(0.5), (zm.re - zk.re) * T(0.5)};
+    const C<T> wo{o.re * w.re - o.im * w.im, o.re * w.im + o.im * w.re};
+    z[k] = {e.re + wo.re, e.im + wo.im};
+    z[half - k] = {e.re - wo.re, wo.im - e.im};
+}
+
+// One bin pair of the inverse: E = Xk + conj Xm, O = (Xk - conj Xm) w with
+// w = conj(W^k); Zk = E + i O, Zm = conj(E - i O) (twice the forward Z).
+template <class T>
+inline void recombineBinInverse(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
+{
+    const C<T> xk = z[k], xm = z[half - k];
+    const C<T> e{xk.re + xm.re, xk.im - xm.im};
+    const C<T> dlt{xk.re - xm.re, xk.im + xm.im};
+    const C<T> o{dlt.re * w.re - dlt.im * w.im, dlt.re * w.im + dlt.im * w.re};
+    z[k] = {e.re - o.im, e.im + o.re};
+    z[half - k] = {e.re + o.im, o.re - e.im};
+}
+
+// Z (the half-length transform of x[2m] + i*x[2m+1]) to the spectrum X in
+// Perm layout, in place. Bin 0 gives R0 and R(N/2); bin N/4 is conj(Z).
+template <class T, int SmallOrder = -1>
 void ownsRecombineForward(const Record* rec, T* d, int order)
 {
+    if constexpr (SmallOrder >= 0) order = SmallOrder;
     const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
     C<T>* z = reinterpret_cast<C<T>*>(d);
     const T a = z[0].re, b = z[0].im;
     z[0] = {a + b, a - b};
     if (n < 4) return;
-    for (Qsp64s k = 1; k < quarter; ++k) {
-        const C<T> zk = z[k], zm = z[half - k];
-        // E = (Zk + conj Zm)/2, O = -i (Zk - conj Zm)/2
-        const C<T> e{(zk.re + zm.re) * T(0.5), (zk.im - zm.im) * T(0.5)};
-        const C<T> o{(zk.im + zm.im) * T(0.5), -(zk.re - zm.re) * T(0.5)};
-        const C<T> w = realTwiddle<T, false>(rec, k, order);
-        const C<T> wo{w.re * o.re - w.im * o.im, w.re * o.im + w.im * o.re};
-        z[k] = {e.re + wo.re, e.im + wo.im};
-        z[half - k] = {e.re - wo.re, -(e.im - wo.im)};
-    }
+    Qsp64s k = 1;
+    if (SmallOrder < 0 && !rec->recombSplit)
+        k = ownsRecombineVector<T, false>(z, static_cast<const C<T>*>(rec->recomb), half, quarter);
+    for (; k < quarter; ++k) recombineBinForward(z, k, half, realTwiddle<T, false>(rec, k, order));
     z[quarter].im = -z[quarter].im;
 }
 
 // X in Perm layout (in place) to 2*Z, whose half-length inverse transform
 // is N times x.
-template <class T>
+template <class T, int SmallOrder = -1>
 void ownsRecombineInverse(const Record* rec, T* d, int order)
 {
+    if constexpr (SmallOrder >= 0) order = SmallOrder;
     const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
     C<T>* z = reinterpret_cast<C<T>*>(d);
     const T r0 = z[0].re, rh = z[0].im;
     z[0] = {r0 + rh, r0 - rh};
     if (n < 4) return;
-    for (Qsp64s k = 1; k < quarter; ++k) {
-        const C<T> xk = z[k], xm = z[half - k];
-        // E = Xk + conj Xm, O = (Xk - conj Xm) conj(W^k); Zk = E + iO, Zm = conj(E - iO)
-        const C<T> e{xk.re + xm.re, xk.im - xm.im};
-        const C<T> dlt{xk.re - xm.re, xk.im + xm.im};
-        const C<T> w = realTwiddle<T, true>(rec, k, order);
-        const C<T> o{dlt.re * w.re - dlt.im * w.im, dlt.re * w.im + dlt.im * w.re};
-        z[k] = {e.re - o.im, e.im + o.re};
-        z[half - k] = {e.re + o.im, -(e.im - o.re)};
-    }
+    Qsp64s k = 1;
+    if (SmallOrder < 0 && !rec->recombSplit)
+        k = ownsRecombineVector<T, true>(z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
+    for (; k < quarter; ++k) recombineBinInverse(z, k, half, realTwiddle<T, true>(rec, k, order));
     z[quarter] = {T(2) * z[quarter].re, T(-2) * z[quarter].im};
+}
+
+// The recombination by order: orders 1..4 unrolled with built-in twiddles.
+template <class T, bool Inv>
+void ownsRecombine(const Record* rec, T* d, int order)
+{
+    auto pick = [&](auto smallOrder) {
+        constexpr int o = decltype(smallOrder)::value;
+        if constexpr (Inv)
+            ownsRecombineInverse<T, o>(rec, d, o);
+        else
+            ownsRecombineForward<T, o>(rec, d, o);
+    };
+    switch (order) {
+    case 1: pick(std::integral_constant<int, 1>{}); return;
+    case 2: pick(std::integral_constant<int, 2>{}); return;
+    case 3: pick(std::integral_constant<int, 3>{}); return;
+    case 4: pick(std::integral_constant<int, 4>{}); return;
+    default:
+        if constexpr (Inv)
+            ownsRecombineInverse<T>(rec, d, order);
+        else
+            ownsRecombineForward<T>(rec, d, order);
+    }
 }
 
 template <class T>
@@ -249,7 +353,7 @@ void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
         ownsComplex<T, false>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
                               static_cast<const C<T>*>(rec->twiddles));
         if (rec->forwardNormalise) ownsScale(dst, n, factorOf<T>(rec));
-        ownsRecombineForward<T>(rec, dst, order);
+        ownsRecombine<T, false>(rec, dst, order);
     }
     if (layout == Packed::Pack && n >= 4) {
         const T nyquist = dst[1];
@@ -288,7 +392,7 @@ void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     } else if (src != dst) {
         for (Qsp64s i = 0; i < n; ++i) dst[i] = src[i];
     }
-    ownsRecombineInverse<T>(rec, dst, order);
+    ownsRecombine<T, true>(rec, dst, order);
     C<T>* z = reinterpret_cast<C<T>*>(dst);
     ownsComplex<T, true>(z, z, work, order - 1, static_cast<const C<T>*>(rec->twiddles));
     if (rec->inverseNormalise) ownsScale(dst, n, factorOf<T>(rec));

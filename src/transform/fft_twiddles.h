@@ -57,7 +57,7 @@ inline Cplx<T> twiddle(const Octant<T>& o, Qsp64s k)
         }
     }
     const Qsp64s quarter = n >> 2;
-    const Qsp64s q = k / quarter, r = k - q * quarter;
+    const Qsp64s q = k >> (o.order - 2), r = k & (quarter - 1);
     T c, s;
     if (r <= (quarter >> 1)) {
         const Cplx<T> v = o.table[r * o.stride];
@@ -74,6 +74,55 @@ inline Cplx<T> twiddle(const Octant<T>& o, Qsp64s k)
     case 1: return {-s, -c};
     case 2: return {-c, s};
     default: return {s, c};
+    }
+}
+
+// out[i] = W_N^(e0 + i*de) for 0 <= i < count, N = 2^o.order >= 8, in the
+// element type U: the exponents are walked in runs that read the octant
+// table in one direction with one rotation, so each value costs a load and
+// a store.
+template <class U, class T>
+void ownsFillTwiddleRun(Cplx<U>* out, Qsp64s count, Qsp64s e0, Qsp64s de, const Octant<T>& o)
+{
+    const Qsp64s n = Qsp64s(1) << o.order, quarter = n >> 2, eighth = n >> 3;
+    const int qShift = o.order - 2;
+    de &= n - 1;
+    Qsp64s e = e0 & (n - 1);
+    Qsp64s i = 0;
+    while (i < count) {
+        if (de == 0) {
+            const Cplx<T> w = twiddle(o, e);
+            for (; i < count; ++i) out[i] = {U(w.re), U(w.im)};
+            return;
+        }
+        const Qsp64s q = e >> qShift, r = e & (quarter - 1);
+        // Values up to the end of this half-quadrant (r <= N/8 reads the
+        // octant upwards, r > N/8 downwards) or of the circle.
+        const bool mirror = r > eighth;
+        const Qsp64s limit = mirror ? quarter : eighth + 1;  // first r outside the run
+        Qsp64s run = (limit - r + de - 1) / de;
+        const Qsp64s toWrap = (n - e + de - 1) / de;
+        if (run > toWrap) run = toWrap;
+        if (run > count - i) run = count - i;
+        const Cplx<T>* t = o.table;
+        const Qsp64s stride = o.stride;
+        // exp(+i theta) = i^q (c + i s), conjugated; mirror: c, s exchanged.
+        Qsp64s idx = mirror ? quarter - r : r;
+        const Qsp64s didx = mirror ? -de : de;
+        for (Qsp64s j = 0; j < run; ++j, idx += didx) {
+            const Cplx<T> v = t[idx * stride];
+            const T c = mirror ? v.im : v.re, s = mirror ? v.re : v.im;
+            Cplx<U> w;
+            switch (q) {
+            case 0: w = {U(c), U(-s)}; break;
+            case 1: w = {U(-s), U(-c)}; break;
+            case 2: w = {U(-c), U(s)}; break;
+            default: w = {U(s), U(c)}; break;
+            }
+            out[i + j] = w;
+        }
+        i += run;
+        e = (e + run * de) & (n - 1);
     }
 }
 
@@ -98,10 +147,14 @@ constexpr BuiltinAs<T> makeBuiltinAs()
 template <class T>
 inline constexpr BuiltinAs<T> kBuiltinAs = makeBuiltinAs<T>();
 
+// The built-in octant as the octant of length 2^order, order <= 10.
 template <class T>
 inline Octant<T> builtinOctant(int order)
 {
-    return {kBuiltinAs<T>.v, order >= 3 ? (Qsp64s(1) << (kBuiltinOrder - order)) : 0, order};
+    // Above the built-in order the record carries a table of its own, and
+    // the stride here is never used.
+    const bool strided = order >= 3 && order <= kBuiltinOrder;
+    return {kBuiltinAs<T>.v, strided ? (Qsp64s(1) << (kBuiltinOrder - order)) : 0, order};
 }
 
 }  // namespace fft

@@ -40,6 +40,38 @@ D scaled(i128 v, int s)
     return D(q);
 }
 
+// The quotient num / den times 2^-s, rounded (mode 0 toward zero, 1 to
+// nearest even, 2 to nearest with ties away from zero) and clamped to D; a
+// zero den gives D's maximum, minimum or 0 by the sign of num. Works by
+// floor division and a comparison of twice the remainder with the divisor.
+template <class D>
+D quotient(i128 num, i128 den, int s, int mode = 1)
+{
+    using L = std::numeric_limits<D>;
+    if (den == 0) return num > 0 ? L::max() : num < 0 ? L::min() : D(0);
+    s = s > 90 ? 90 : s < -90 ? -90 : s;
+    for (int i = 0; i < s; ++i) den *= 2;
+    for (int i = 0; i < -s; ++i) num *= 2;
+    if (den < 0) num = -num, den = -den;
+    i128 q = num / den, r = num - q * den;
+    if (r < 0) q -= 1, r += den;  // floor: 0 <= r < den
+    // q + r/den is the exact value; pick the integer by the mode.
+    if (r != 0) {
+        const bool negative = q < 0;  // the exact value lies in (q, q+1)
+        if (mode == 0) {
+            if (negative) q += 1;  // toward zero
+        } else if (2 * r > den) {
+            q += 1;
+        } else if (2 * r == den) {
+            if (mode == 2) q += negative ? 0 : 1;
+            else if (q & 1) q += 1;
+        }
+    }
+    if (q > i128(L::max())) return L::max();
+    if (q < i128(L::min())) return L::min();
+    return D(q);
+}
+
 // Random values of an integer type with its extremes and small values mixed
 // in (one in four is one of them).
 template <class T>

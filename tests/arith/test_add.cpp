@@ -7,8 +7,6 @@ using namespace arithfam;
 using arithchecks::expectChecks;
 
 namespace {
-// A 64-bit length function called with an int length, as the sweeps do.
-auto viaL = [](auto fnL) { return [=](auto... args) { return fnL(args...); }; };
 auto exactSum = [](auto a, auto b) { return i128(a) + i128(b); };
 }
 

@@ -56,7 +56,7 @@ void checkRange(Qsp64s lo, Qsp64s hi, bool lanes, bool full = true)
         values.push_back(-(Qsp64s(1) << k) + 1);
         values.push_back(3 * (Qsp64s(1) << k));
     }
-    for (int i = 0; i < 2000; ++i) values.push_back(lo + Qsp64s(qsptest::rng()() % Qsp64u(hi - lo + 1)));
+    for (int i = 0; i < 2000; ++i) values.push_back(Qsp64s(Qsp64u(lo) + qsptest::rng()() % (Qsp64u(hi) - Qsp64u(lo) + 1)));
     for (Qsp64s v : values) {
         if (v < lo || v > hi) continue;
         for (int s = -40; s <= 40; ++s) {

@@ -32,35 +32,70 @@ inline std::vector<LC> directDft(const std::vector<LC>& x, int sign)
     return y;
 }
 
-inline void fftRec(LC* x, size_t n, size_t stride, LC* out, const std::vector<LC>& w, size_t wStep)
+// Iterative radix-2 decimation in time: bit-reversed copy, then log2 N
+// stages of butterflies, all in long double.
+inline void fftIterative(const LC* x, size_t n, LC* out, const std::vector<LC>& w)
 {
-    if (n == 1) {
-        out[0] = x[0];
-        return;
+    int bits = 0;
+    while ((size_t(1) << bits) < n) ++bits;
+    for (size_t i = 0; i < n; ++i) {
+        size_t r = 0;
+        for (int b = 0; b < bits; ++b) r |= ((i >> b) & 1) << (bits - 1 - b);
+        out[r] = x[i];
     }
-    fftRec(x, n / 2, stride * 2, out, w, wStep * 2);
-    fftRec(x + stride, n / 2, stride * 2, out + n / 2, w, wStep * 2);
+    for (size_t len = 2; len <= n; len <<= 1) {
+        const size_t half = len / 2, step = n / len;
+        for (size_t i = 0; i < n; i += len)
+            for (size_t k = 0; k < half; ++k) {
+                // Written out: std::complex's product checks for infinities.
+                const LC a = out[i + k + half], b = w[k * step];
+                const LC o(a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real());
+                const LC e = out[i + k];
+                out[i + k] = e + o;
+                out[i + k + half] = e - o;
+            }
+    }
+}
+
+// exp(sign * 2 pi i k / N) for k < N/2: the C library's long double
+// sine and cosine on the first octant, the rest by the exact symmetries.
+inline std::vector<LC> referenceTwiddles(size_t n, int sign)
+{
+    std::vector<LC> w(n / 2);
+    const size_t eighth = n / 8, quarter = n / 4;
+    std::vector<long double> c(eighth + 1), s(eighth + 1);
+    for (size_t j = 0; j <= eighth; ++j) {
+        const long double a = 2 * kPi * (long double)j / (long double)n;
+        c[j] = cosl(a);
+        s[j] = sinl(a);
+    }
     for (size_t k = 0; k < n / 2; ++k) {
-        // Written out: std::complex's product checks for infinities.
-        const LC a = out[k + n / 2], b = w[k * wStep];
-        const LC e = out[k], o(a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real());
-        out[k] = e + o;
-        out[k + n / 2] = e - o;
+        const size_t q = k / quarter, r = k % quarter;
+        const long double cr = r <= eighth ? c[r] : s[quarter - r], sr = r <= eighth ? s[r] : c[quarter - r];
+        // angle = q * pi/2 + r * 2 pi / n, q in {0, 1}
+        const long double re = q == 0 ? cr : -sr, im = q == 0 ? sr : cr;
+        w[k] = LC(re, sign * im);
     }
+    return w;
 }
 
 inline std::vector<LC> dft(std::vector<LC> x, int sign)
 {
     const size_t n = x.size();
     if (n <= 64) return directDft(x, sign);
-    std::vector<LC> w(n / 2);
-    for (size_t k = 0; k < n / 2; ++k) {
-        const long double a = sign * 2 * kPi * (long double)k / (long double)n;
-        w[k] = LC(cosl(a), sinl(a));
-    }
+    const std::vector<LC> w = referenceTwiddles(n, sign);
     std::vector<LC> out(n);
-    fftRec(x.data(), n, 1, out.data(), w, 1);
+    fftIterative(x.data(), n, out.data(), w);
     return out;
+}
+
+// The inverse transform from the forward one: X+[k] = X-[(N - k) mod N].
+inline std::vector<LC> reversedIndex(const std::vector<LC>& forward)
+{
+    const size_t n = forward.size();
+    std::vector<LC> r(n);
+    for (size_t k = 0; k < n; ++k) r[k] = forward[(n - k) % n];
+    return r;
 }
 
 // The reference transform of a deterministic signal of each order, kept
@@ -95,7 +130,7 @@ inline const CachedPair& cached(int order, bool real)
     if (e.x.empty()) {
         e.x = exactSignal(order, real);
         e.forward = dft(e.x, -1);
-        e.inverse = dft(e.x, 1);
+        e.inverse = reversedIndex(e.forward);
         if (real) {
             const size_t n = e.x.size();
             const auto v = exactSignal(order, false, 1);
@@ -105,7 +140,7 @@ inline const CachedPair& cached(int order, bool real)
                 e.hermitian[k] = LC(v[k].real(), realBin ? 0.0L : v[k].imag());
                 if (!realBin) e.hermitian[n - k] = std::conj(e.hermitian[k]);
             }
-            e.hermitianInverse = dft(e.hermitian, 1);
+            e.hermitianInverse = reversedIndex(dft(e.hermitian, -1));
         }
     }
     return e;
