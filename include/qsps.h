@@ -1228,12 +1228,21 @@ QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
 
 /* Sum --------------------------------------------------------------------- */
 /*
- * Sum of the elements: *pSum = sum of pSrc[i]. 32f/32fc accumulate by the hint
- * (1 fast: single-precision blocks widened to double; else accurate: every
- * element widened to double) and round the double total to single precision.
- * 64f/64fc add in double. 16s32s and 16sc32sc sum exactly, scale by
- * 2^-scaleFactor, saturate to 32 bits and round; 16s/16sc then saturate to 16
- * bits; 32s sums in 64 bits. _L forms take a 64-bit length.
+ * Sum of the elements: *pSum = sum of pSrc[i]. 32f/32fc by the hint, the
+ * double total rounded to single precision: hint 1 (fast) adds the elements
+ * before the source's first 16-byte boundary one by one in double, then
+ * blocks of 32768 in 16 single lanes (four registers, folded (a0+a1)+(a2+a3),
+ * lanes (s0+s2)+(s1+s3); complex: s0+s2 real, s1+s3 imaginary), each block
+ * widened and added in double, a block's last elements one by one in double;
+ * any other hint (0 and 2 alike) widens every element into eight double lanes
+ * (a first element that is not 8-byte aligned first, folded (a0+a2)+(a1+a3),
+ * then t0+t1; complex t0 real, t1 imaginary), the rest one by one. 64f/64fc:
+ * the double-lane scheme. 16s32s/16sc32sc: the exact sum times 2^-scaleFactor
+ * (a double with exponent 1023-scaleFactor clamped to 0..2047), clamped to 32
+ * bits and converted by the current rounding mode; a zero sum gives 0 for every
+ * factor; 16s/16sc saturate that 32-bit result to 16 bits. 32s: a 64-bit sum,
+ * rounded to nearest even and saturated by the scale-factor rule. _L forms
+ * take a 64-bit length and check it first. Thread-safe.
  */
 QspStatus qspsSum_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pSum, int scaleFactor);
 QspStatus qspsSum_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
@@ -1251,9 +1260,12 @@ QspStatus qspsSum_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pSum);
 
 /* Mean -------------------------------------------------------------------- */
 /*
- * Mean of the elements: *pMean = (sum of pSrc[i]) / len, the sum formed as in
- * Sum (with the hint for 32f/32fc) and divided in double. Integer forms scale
- * by 2^-scaleFactor, saturate and round. _L forms take a 64-bit length.
+ * Mean of the elements: *pMean = (sum of pSrc[i]) / len. Floating forms divide
+ * the Sum result (for 32f/32fc already rounded to single precision, by the
+ * hint's scheme) by len in double. Integer forms divide the exact sum by len in
+ * double, multiply by 2^-scaleFactor as Sum does, clamp to the result type and
+ * convert by the current rounding mode (32s too). _L forms take a 64-bit length
+ * and check it first.
  */
 QspStatus qspsMean_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, int scaleFactor);
 QspStatus qspsMean_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pMean, int scaleFactor);
@@ -1270,9 +1282,13 @@ QspStatus qspsMean_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pMean);
 /* StdDev ------------------------------------------------------------------ */
 /*
  * Sample standard deviation: *pStdDev = sqrt((len*Q - S^2) / (len*(len-1))),
- * S the sum and Q the sum of squares, both in double; a negative numerator is
- * taken as 0. len below 2 gives qspStsBadSize. 32f: hint 1 selects a fast
- * kernel. Integer forms scale, saturate and round as Sum.
+ * S the sum and Q the sum of squares in double (a negative numerator from
+ * cancellation is taken as 0, so a constant vector gives exactly 0); the root is
+ * taken in double and rounded to the result. len below 2 gives qspStsBadSize
+ * (after the pointers). 32f: hint 1 sums S and Q by the fast scheme of Sum
+ * (single lanes per block of 32768), other hints widen to double lanes; 64f
+ * double lanes. 16s forms: S, Q and the numerator exact, the deviation times
+ * 2^-scaleFactor clamped and converted as in Sum.
  */
 QspStatus qspsStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pStdDev, int scaleFactor);
 QspStatus qspsStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pStdDev, int scaleFactor);
@@ -1281,9 +1297,9 @@ QspStatus qspsStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pStdDev);
 
 /* MeanStdDev -------------------------------------------------------------- */
 /*
- * Mean and sample standard deviation in one pass (see Mean and StdDev); len
- * below 2 gives qspStsBadSize. The 32f form always uses the accurate kernel and
- * ignores its hint.
+ * Mean and sample standard deviation from one pair of sums (see Mean and
+ * StdDev); len below 2 gives qspStsBadSize. The mean is S / len. The 32f form
+ * always uses the accurate (double-lane) sums and ignores its hint.
  */
 QspStatus qspsMeanStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, Qsp16s* pStdDev, int scaleFactor);
 QspStatus qspsMeanStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pMean, Qsp32s* pStdDev, int scaleFactor);
@@ -1293,10 +1309,17 @@ QspStatus qspsMeanStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean, Qsp64f*
 /* Norm -------------------------------------------------------------------- */
 /*
  * Vector norms: Inf *pNorm = max |pSrc[i]|; L1 sum of |pSrc[i]|; L2 sqrt(sum of
- * |pSrc[i]|^2); L2Sqr sum of |pSrc[i]|^2 (complex: magnitudes). Two type codes:
- * source, then result. 32f L2 accumulates squares in single precision. Sfs
- * forms scale by 2^-scaleFactor and saturate (Inf_16s32s: truncating shifts).
- * _L forms take a 64-bit length.
+ * |pSrc[i]|^2); L2Sqr sum of |pSrc[i]|^2 (complex: magnitudes, formed in
+ * double). Two type codes: source, then result. 32f L2 sums the squares in
+ * eight single lanes (the squares before the first 16-byte boundary start the
+ * first register's lanes; s = a0 + a1, (s0+s2)+(s1+s3), the rest one by one)
+ * and roots in double; the other floating sums use the double lanes of Sum.
+ * Inf follows the step of Max (a NaN may come out). 16-bit sources sum exactly:
+ * L1 and L2Sqr Sfs forms round to nearest even and saturate by the scale-factor
+ * rule, L2_16s32s_Sfs rounds the double root times 2^-scaleFactor to nearest
+ * even; Inf_16s32s_Sfs shifts the largest magnitude (32768 for -32768) right
+ * truncating (0 from 32 on) or left by at most 31, saturating to 2^31-1. _L
+ * forms take a 64-bit length and check it first.
  */
 QspStatus qspsNorm_Inf_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
 QspStatus qspsNorm_Inf_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
@@ -1325,8 +1348,10 @@ QspStatus qspsNorm_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, 
 
 /* NormDiff ---------------------------------------------------------------- */
 /*
- * Norms of the difference pSrc1[i] - pSrc2[i], as Norm computes them of one
- * vector; same type set and scaling.
+ * Norms of the difference pSrc1[i] - pSrc2[i], formed in the element type (16-bit
+ * differences exactly, up to 65535 in magnitude; floating ones rounded), then as
+ * Norm computes them of one vector; same type set and scaling. The 32f L2
+ * scheme takes its boundary from pSrc1.
  */
 QspStatus qspsNormDiff_Inf_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
 QspStatus qspsNormDiff_Inf_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
@@ -1354,9 +1379,13 @@ QspStatus qspsNormDiff_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2
  * Dot product: *pDp = sum of pSrc1[i] * pSrc2[i], without conjugation. Type
  * codes: both sources, then the result (16s32f: 16s sources, 32f result;
  * 32f32fc: a 32f and a 32fc source, 32fc result; 16s32s32s: 16s and 32s
- * sources, 32s result). 32f accumulates in single precision in six lanes; Sfs
- * forms scale by 2^-scaleFactor, round and saturate. _L forms take a 64-bit
- * length.
+ * sources, 32s result). 32f: six single lanes over every whole group of six,
+ * lanes added from lane 0 up, then the 0..5 remaining products one by one.
+ * 32f64f and 64f: exact products (floats widened) in eight double lanes, folded
+ * as in Sum. Complex and mixed forms: products and sums in double, rounded to
+ * the result. Integer forms sum exactly (64 or 128 bits); Sfs forms round to
+ * nearest even and saturate by the scale-factor rule at any scale factor. _L
+ * forms take a 64-bit length and check it first.
  */
 QspStatus qspsDotProd_16s16sc64sc(const Qsp16s* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
 QspStatus qspsDotProd_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pDp);
@@ -1412,7 +1441,8 @@ QspStatus qspsMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax);
 
 /* Min --------------------------------------------------------------------- */
 /*
- * Smallest element: *pMin = min pSrc[i], the mirror of Max.
+ * Smallest element: *pMin = min pSrc[i], the mirror of Max (a step keeps the
+ * current value while it compares less).
  */
 QspStatus qspsMin_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin);
 QspStatus qspsMin_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin);
@@ -1522,8 +1552,10 @@ QspStatus qspsMinAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs, 
 
 /* MaxEvery ---------------------------------------------------------------- */
 /*
- * Element-wise maximum of two vectors: pDst[i] = the larger of pSrc1[i] and
- * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ * Element-wise maximum of two vectors: pDst[i] = pSrc1[i] > pSrc2[i] ? pSrc1[i] :
+ * pSrc2[i], so where neither is greater (equal values such as -0.0 and +0.0, or
+ * a NaN on either side) the second operand's element comes out. The _I forms
+ * write into the second operand, pSrcDst.
  */
 QspStatus qspsMaxEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
 QspStatus qspsMaxEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
@@ -1538,8 +1570,9 @@ QspStatus qspsMaxEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
 
 /* MinEvery ---------------------------------------------------------------- */
 /*
- * Element-wise minimum of two vectors: pDst[i] = the smaller of pSrc1[i] and
- * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ * Element-wise minimum of two vectors: pDst[i] = pSrc1[i] < pSrc2[i] ? pSrc1[i] :
+ * pSrc2[i] (the second operand's element where neither is smaller). The _I forms
+ * write into the second operand, pSrcDst.
  */
 QspStatus qspsMinEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
 QspStatus qspsMinEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
@@ -1604,10 +1637,11 @@ QspStatus qspsSortRadixDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuff
 
 /* Sort -------------------------------------------------------------------- */
 /*
- * In-place comparison sort, ascending or descending, needing no buffer.
- * Floating values order as in SortRadix (NaNs by their bit patterns). Not
- * stable (equal values are indistinguishable). _L forms take a 64-bit
- * length.
+ * In-place comparison sort, ascending or descending, needing no buffer and
+ * allocating nothing (n log n in the worst case). Values order as in SortRadix:
+ * floating values by the total order of their bit patterns (-NaN < -Inf < ... <
+ * -0.0 < +0.0 < ... < +Inf < +NaN). Equal values are indistinguishable. _L
+ * forms take a 64-bit length and check it first.
  */
 QspStatus qspsSortAscend_8u_I(Qsp8u* pSrcDst, int len);
 QspStatus qspsSortAscend_16u_I(Qsp16u* pSrcDst, int len);
@@ -1632,9 +1666,10 @@ QspStatus qspsSortDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
 
 /* SortIndex --------------------------------------------------------------- */
 /*
- * Sorts a vector in place, ascending or descending, and writes beside it the
- * permutation: pDstIndx[j] is the original index of the value now at j. Equal
- * values keep their original order.
+ * Sorts a vector in place, ascending or descending (the order of SortRadix),
+ * and writes beside it the permutation: pDstIndx[j] is the original index of
+ * the value now at j. Equal values keep their original order. No buffer and
+ * no allocation.
  */
 QspStatus qspsSortIndexAscend_8u_I(Qsp8u* pSrcDst, int* pDstIndx, int len);
 QspStatus qspsSortIndexAscend_16u_I(Qsp16u* pSrcDst, int* pDstIndx, int len);
@@ -1652,10 +1687,15 @@ QspStatus qspsSortIndexDescend_64f_I(Qsp64f* pSrcDst, int* pDstIndx, int len);
 /* SortRadixIndex ---------------------------------------------------------- */
 /*
  * Writes the sorting permutation of a vector without moving it: pDstIndx[j] is
- * the index of the j-th smallest (Ascend) or largest (Descend) element, equal
- * values in index order. The work buffer's size comes from
- * SortRadixIndexGetBufferSize for len and the type code. _L forms take 64-bit
- * lengths and indices.
+ * the index of the j-th smallest (Ascend) or largest (Descend) element in the
+ * order of SortRadix, equal values in index order (stable radix passes). The
+ * work buffer (no alignment needed) has the size SortRadixIndexGetBufferSize
+ * reports for len and the type code: qsp8u 1024 bytes; 16-bit codes 2048 +
+ * 6 len; 32-bit codes 20480 + 12 len; 64-bit codes 40960 + 20 len; the _L query
+ * (64-bit indices) 4 more bytes per element for every type but qsp8u. Other
+ * codes give size 0 and qspStsBadDataType; a size that does not fit gives
+ * qspStsOverflow. _L forms take 64-bit lengths and indices, lengths checked
+ * first.
  */
 QspStatus qspsSortRadixIndexGetBufferSize(int len, QspDataType dataType, int* pBufferSize);
 QspStatus qspsSortRadixIndexGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize);
@@ -1685,6 +1725,82 @@ QspStatus qspsSortRadixIndexDescend_64s(const Qsp64s* pSrc, int* pDstIndx, int l
 QspStatus qspsSortRadixIndexDescend_64s_L(const Qsp64s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
 QspStatus qspsSortRadixIndexDescend_64f(const Qsp64f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
 QspStatus qspsSortRadixIndexDescend_64f_L(const Qsp64f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+
+/* TopK -------------------------------------------------------------------- */
+/*
+ * The k largest elements in descending order with their indices: pDstValue[j],
+ * pDstIndx[j] for j < k; equal values: lower index first. Floating values
+ * compare by the order of SortRadix (a NaN with the sign bit clear above +Inf,
+ * one with it set below -Inf). Checks: pointers, len below 1 (qspStsBadSize),
+ * then k below 1 or above len (qspStsBadCount). The work buffer holds k keys
+ * and k indices: TopKGetBufferSize gives k*8 bytes for qsp32s and qsp32f, k*12
+ * for qsp64f, size 0 and qspStsBadDataType for other codes.
+ */
+QspStatus qspsTopKGetBufferSize(int len, int k, QspDataType dataType, int* pBufferSize);
+QspStatus qspsTopK_32s(const Qsp32s* pSrc, Qsp32s* pDstValue, int* pDstIndx, int len, int k, Qsp8u* pBuffer);
+QspStatus qspsTopK_32f(const Qsp32f* pSrc, Qsp32f* pDstValue, int* pDstIndx, int len, int k, Qsp8u* pBuffer);
+QspStatus qspsTopK_64f(const Qsp64f* pSrc, Qsp64f* pDstValue, int* pDstIndx, int len, int k, Qsp8u* pBuffer);
+
+/* FindNearest ------------------------------------------------------------- */
+/*
+ * For every element, the nearest entry of an ascending table: pDst[i] =
+ * pTable[j] and pDstIndx[i] = j with |pSrc[i] - pTable[j]| least, by binary
+ * search (distances in double); ties, and equal entries, go to the lower j. A
+ * NaN element takes entry 0. Checks: pointers, then len and tableLen below 1
+ * (qspStsBadSize). FindNearestOne does it for one value.
+ */
+QspStatus qspsFindNearest_16u(const Qsp16u* pSrc, const Qsp16u* pTable, Qsp16u* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearest_32s(const Qsp32s* pSrc, const Qsp32s* pTable, Qsp32s* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearest_32f(const Qsp32f* pSrc, const Qsp32f* pTable, Qsp32f* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearest_64f(const Qsp64f* pSrc, const Qsp64f* pTable, Qsp64f* pDst, int* pDstIndx, int len, int tableLen);
+QspStatus qspsFindNearestOne_16u(Qsp16u val, const Qsp16u* pTable, Qsp16u* pDst, int* pDstIndx, int tableLen);
+QspStatus qspsFindNearestOne_32f(Qsp32f val, const Qsp32f* pTable, Qsp32f* pDst, int* pDstIndx, int tableLen);
+
+/* CountInRange ------------------------------------------------------------ */
+/*
+ * Counts the elements with lowerBound <= pSrc[i] <= upperBound into *pCount
+ * (NaN elements never count). lowerBound above upperBound gives qspStsBadRange,
+ * after the pointer and length checks.
+ */
+QspStatus qspsCountInRange_32s(const Qsp32s* pSrc, int len, int* pCount, Qsp32s lowerBound, Qsp32s upperBound);
+QspStatus qspsCountInRange_32f(const Qsp32f* pSrc, int len, int* pCount, Qsp32f lowerBound, Qsp32f upperBound);
+QspStatus qspsCountInRange_64f(const Qsp64f* pSrc, int len, int* pCount, Qsp64f lowerBound, Qsp64f upperBound);
+
+/* ZeroCrossing ------------------------------------------------------------ */
+/*
+ * Zero-crossing measure of a signal, normalised to [0, 1]: zcType qspZCR (0)
+ * counts sign changes (a zero counts as positive) divided by len-1; qspZCXor
+ * (1) the neighbours whose sign bits differ (-0.0 is negative) divided by
+ * len-1; qspZCC (2) half the sum of |sign(x[i]) - sign(x[i-1])| divided by
+ * len-1 (sign 0 for zeros and NaNs). Computed in double, rounded to the result.
+ * Checks: pointers, len below 2 (qspStsBadSize), then zcType
+ * (qspStsBadArgument).
+ */
+QspStatus qspsZeroCrossing_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pValZC, QspZCType zcType);
+QspStatus qspsZeroCrossing_32f(const Qsp32f* pSrc, int len, Qsp32f* pValZC, QspZCType zcType);
+QspStatus qspsZeroCrossing_64f(const Qsp64f* pSrc, int len, Qsp64f* pValZC, QspZCType zcType);
+
+/* PatternMatch ------------------------------------------------------------ */
+/*
+ * Slides a pattern along a vector: pDst[i] = the number of positions j <
+ * patternLen where pSrc[i+j] equals pPattern[j] (mode qspPatternMatchEqual, 0)
+ * or the number of differing bits over the window (qspPatternMatchHamming, 1),
+ * saturated at 65535, for 0 <= i <= len - patternLen. Checks: pointers; len,
+ * then patternLen below 1 (qspStsBadSize); patternLen above len
+ * (qspStsBadPatternSize); the mode (qspStsBadArgument).
+ */
+QspStatus qspsPatternMatch_8u16u(const Qsp8u* pSrc, const Qsp8u* pPattern, Qsp16u* pDst, int len, int patternLen, QspPatternMatchMode mode);
+QspStatus qspsPatternMatch_16u(const Qsp16u* pSrc, const Qsp16u* pPattern, Qsp16u* pDst, int len, int patternLen, QspPatternMatchMode mode);
+
+/* ReplaceNAN -------------------------------------------------------------- */
+/*
+ * Replaces every NaN element (complex: every NaN part) of pSrcDst by value in
+ * place; other elements, infinities included, stay.
+ */
+QspStatus qspsReplaceNAN_32f_I(Qsp32f* pSrcDst, int len, Qsp32f value);
+QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
+QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
+QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
 #ifdef __cplusplus
 }
