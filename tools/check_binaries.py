@@ -105,7 +105,10 @@ def check_jumps(qspsy8):
     for name, block in functions:
         insns = [l.split('\t', 1)[1].strip() for l in block.splitlines() if '\t' in l]
         insns = [i for i in insns if not i.startswith(('nop', 'xchg   %ax,%ax', 'cs nop', 'data16'))]
-        widen = [i for i in insns[:-1] if re.match(r'^mov[sz][bw]l\s', i)]
+        # Widening of small arguments: in registers, or on the stack (loaded,
+        # extended and stored back in place).
+        widen = [i for i in insns[:-1]
+                 if re.match(r'^mov[sz][bw]l\s', i) or re.match(r'^mov\s+%e\w+,0x[0-9a-f]+\(%rsp\)$', i)]
         last = insns[-1] if insns else ''
         count += 1
         if len(widen) != len(insns) - 1 or not re.match(r'^jmp\s+[0-9a-f]+ <_ZN2y8\d+%s' % name, last):

@@ -285,12 +285,7 @@ struct Vec<Qsp16s> : IntRegOps {
     static Reg mulWideHi(Reg a, Reg b) { return _mm_unpackhi_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
     // Lanes exchanged within each pair (the parts of complex elements).
     static Reg swapPairs(Reg a) { return _mm_shufflehi_epi16(_mm_shufflelo_epi16(a, 0xB1), 0xB1); }
-    static Reg min(Reg a, Reg b) { return _mm_min_epi16(a, b); }
-    static Reg max(Reg a, Reg b) { return _mm_max_epi16(a, b); }
-    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
     static int anyMask(Reg a) { return Vec<Qsp16u>::anyMask(a); }
-    // Magnitudes as unsigned lanes: -32768 keeps its pattern, 32768.
-    static Reg abs(Reg a) { return _mm_abs_epi16(a); }
 };
 
 template <>
