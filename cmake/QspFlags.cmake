@@ -37,7 +37,7 @@ function(qsp_library_settings target version_script)
     "-Wl,--version-script=${version_script}")
   target_link_libraries(${target} PRIVATE ${QSP_LIB_LINK_LIBS})
   set_target_properties(${target} PROPERTIES
-    VERSION 12 SOVERSION 12
+    VERSION 12 SOVERSION 12 SKIP_BUILD_RPATH ON
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     LINK_DEPENDS "${version_script}")
 endfunction()

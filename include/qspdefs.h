@@ -150,6 +150,46 @@ enum {
     qspCmpGreater   = 4
 };
 
+/* Zero-crossing measure of ZeroCrossing. */
+typedef int QspZCType;
+enum {
+    qspZCR   = 0,  /* sign changes, a zero counting as positive */
+    qspZCXor = 1,  /* sign bits of neighbours differ */
+    qspZCC   = 2   /* half the sum of |sign(x[i]) - sign(x[i-1])| */
+};
+
+/* Comparison of PatternMatch. */
+typedef int QspPatternMatchMode;
+enum {
+    qspPatternMatchEqual   = 0,  /* count the equal elements */
+    qspPatternMatchHamming = 1   /* count the differing bits */
+};
+
+/* Window of FIR filter design (FIRGen). */
+typedef int QspWinType;
+enum {
+    qspWinBartlett = 0,
+    qspWinBlackman = 1,
+    qspWinHamming  = 2,
+    qspWinHann     = 3,
+    qspWinRect     = 4
+};
+
+/* Prototype of IIR filter design (IIRGen). */
+typedef int QspIIRFilterType;
+enum {
+    qspIIRButterworth = 0,
+    qspIIRChebyshev1  = 1
+};
+
+/* Normalisation of AutoCorrNorm and CrossCorrNorm. */
+typedef int QspCorrNorm;
+enum {
+    qspNormNone     = 0,  /* the plain sums */
+    qspNormBiased   = 1,  /* divided by the source length */
+    qspNormUnbiased = 2   /* divided by the number of products at each lag */
+};
+
 /* ------------------------------------------------------------------------
  * Records in caller memory. Their layouts are internal: a caller only sizes
  * them with the matching GetSize/GetStateSize query, has Init build them
@@ -197,6 +237,36 @@ typedef struct QspsIIRState64f_32s QspsIIRState64f_32s;
 typedef struct QspsIIRState64fc_32sc QspsIIRState64fc_32sc;
 typedef struct QspsIIRState64f_16s QspsIIRState64f_16s;
 typedef struct QspsIIRState64fc_16sc QspsIIRState64fc_16sc;
+
+/* Records of the other transforms and filters, and generator states. */
+typedef struct QspsHilbertSpec_32f QspsHilbertSpec_32f;
+typedef struct QspsHilbertSpec_64f QspsHilbertSpec_64f;
+typedef struct QspsWTFwdState_32f QspsWTFwdState_32f;
+typedef struct QspsWTInvState_32f QspsWTInvState_32f;
+typedef struct QspsFIRMRSpec_32f QspsFIRMRSpec_32f;
+typedef struct QspsFIRMRSpec_64f QspsFIRMRSpec_64f;
+typedef struct QspsFIRMRSpec_32fc QspsFIRMRSpec_32fc;
+typedef struct QspsFIRMRSpec_64fc QspsFIRMRSpec_64fc;
+typedef struct QspsFIRMRSpec32f_32fc QspsFIRMRSpec32f_32fc;
+typedef struct QspsFIRLMSState_32f QspsFIRLMSState_32f;
+typedef struct QspsFIRLMSState32f_16s QspsFIRLMSState32f_16s;
+typedef struct QspsFIRSparseState_32f QspsFIRSparseState_32f;
+typedef struct QspsFIRSparseState_32fc QspsFIRSparseState_32fc;
+typedef struct QspsFIRSparseState32f_16s QspsFIRSparseState32f_16s;
+typedef struct QspsIIRSparseState_32f QspsIIRSparseState_32f;
+typedef struct QspsIIRSparseState32f_16s QspsIIRSparseState32f_16s;
+typedef struct QspsResamplingPolyphase_16s QspsResamplingPolyphase_16s;
+typedef struct QspsResamplingPolyphase_32f QspsResamplingPolyphase_32f;
+typedef struct QspsResamplingPolyphaseFixed_16s QspsResamplingPolyphaseFixed_16s;
+typedef struct QspsResamplingPolyphaseFixed_32f QspsResamplingPolyphaseFixed_32f;
+typedef struct QspsRandUniformState_8u QspsRandUniformState_8u;
+typedef struct QspsRandUniformState_16s QspsRandUniformState_16s;
+typedef struct QspsRandUniformState_32f QspsRandUniformState_32f;
+typedef struct QspsRandUniformState_64f QspsRandUniformState_64f;
+typedef struct QspsRandGaussState_8u QspsRandGaussState_8u;
+typedef struct QspsRandGaussState_16s QspsRandGaussState_16s;
+typedef struct QspsRandGaussState_32f QspsRandGaussState_32f;
+typedef struct QspsRandGaussState_64f QspsRandGaussState_64f;
 
 /* Version record returned by qspsGetLibVersion. One constant record in the
  * library's read-only data; never written, never freed by the caller. */

@@ -812,6 +812,23 @@ QspStatus qspsConvert_24u32u(const Qsp8u* pSrc, Qsp32u* pDst, int len);
 QspStatus qspsConvert_24s32s(const Qsp8u* pSrc, Qsp32s* pDst, int len);
 QspStatus qspsConvert_24u32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
 QspStatus qspsConvert_24s32f(const Qsp8u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_8u16u(const Qsp8u* pSrc, Qsp16u* pDst, int len);
+QspStatus qspsConvert_8u16s(const Qsp8u* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsConvert_16u32u(const Qsp16u* pSrc, Qsp32u* pDst, int len);
+QspStatus qspsConvert_16u32s(const Qsp16u* pSrc, Qsp32s* pDst, int len);
+QspStatus qspsConvert_32s64s(const Qsp32s* pSrc, Qsp64s* pDst, int len);
+QspStatus qspsConvert_32u64u(const Qsp32u* pSrc, Qsp64u* pDst, int len);
+QspStatus qspsConvert_32u32f(const Qsp32u* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_32u64f(const Qsp32u* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_64u64f(const Qsp64u* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_64s32f(const Qsp64s* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsConvert_16u64f(const Qsp16u* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsConvert_16s8u(const Qsp16s* pSrc, Qsp8u* pDst, int len);
+QspStatus qspsConvert_16sc32sc(const Qsp16sc* pSrc, Qsp32sc* pDst, int len);
+QspStatus qspsConvert_16sc32fc(const Qsp16sc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConvert_32sc64fc(const Qsp32sc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConvert_32fc64fc(const Qsp32fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConvert_64fc32fc(const Qsp64fc* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConvert_16s16f(const Qsp16s* pSrc, Qsp16f* pDst, int len, QspRoundMode rndMode);
 QspStatus qspsConvert_32f16f(const Qsp32f* pSrc, Qsp16f* pDst, int len, QspRoundMode rndMode);
 QspStatus qspsConvert_16f16s_Sfs(const Qsp16f* pSrc, Qsp16s* pDst, int len, QspRoundMode rndMode, int scaleFactor);
@@ -1047,6 +1064,644 @@ QspStatus qspsRShiftC_16u(const Qsp16u* pSrc, int val, Qsp16u* pDst, int len);
 QspStatus qspsRShiftC_16u_I(int val, Qsp16u* pSrcDst, int len);
 QspStatus qspsRShiftC_32s(const Qsp32s* pSrc, int val, Qsp32s* pDst, int len);
 QspStatus qspsRShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
+
+/* FFTGetSize -------------------------------------------------------------- */
+/*
+ * Sizes, in bytes, that a power-of-two FFT of length N = 2^order needs:
+ * *pSpecSize for the record block, *pSpecBufferSize for the buffer used only
+ * during Init, *pBufferSize for the work buffer of every transform call (0: no
+ * buffer needed). flag is the normalisation: 1 forward divided by N, 2 inverse
+ * divided by N, 4 both divided by sqrt(N), 8 none; any other value gives
+ * qspStsBadFftFlag. hint is not checked. Kinds and orders: C_16fc, C_32fc, C_32f
+ * (split parts) 0..28; R_32f 0..29; C_64fc, C_64f 0..27; R_64f 0..28; other
+ * orders give qspStsBadFftOrder. Every size includes 64 bytes of slack per
+ * non-empty block, so the blocks need no alignment.
+ */
+QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_32fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_32f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_R_32f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_64fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_C_64f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsFFTGetSize_R_64f(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+
+/* FFTInit ----------------------------------------------------------------- */
+/*
+ * Builds an FFT record of the kind in the name inside the caller's block pSpec
+ * (at least *pSpecSize bytes, any alignment): the record starts at the next
+ * 64-byte boundary, whose address is stored in *ppFFTSpec. pSpecBuffer (the
+ * Init buffer) may be null when its size is 0. order, flag and hint as in
+ * FFTGetSize. A rejected flag leaves the record unusable (transforms give
+ * qspStsBadRecord). Init of C_16fc switches the processor to flush-to-zero and
+ * denormals-are-zero and leaves them so. Records are read-only afterwards and
+ * may be shared by threads; there is no release call.
+ */
+QspStatus qspsFFTInit_C_16fc(QspsFFTSpec_C_16fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_32fc(QspsFFTSpec_C_32fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_32f(QspsFFTSpec_C_32f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_R_32f(QspsFFTSpec_R_32f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_64fc(QspsFFTSpec_C_64fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_C_64f(QspsFFTSpec_C_64f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+
+/* FFTFwd ------------------------------------------------------------------ */
+/*
+ * Forward FFT, X[k] = sum over m of x[m] e^(-2 pi i k m / N), N = 2^order of
+ * the record. CToC: complex to complex (interleaved, or split into pSrcRe/
+ * pSrcIm and pDstRe/pDstIm for 32f and 64f). RToPack, RToPerm, RToCCS: real
+ * signal of N values to its half spectrum in the packed layout named (Pack and
+ * Perm hold N values, CCS N+2). Divided by N or sqrt(N) only as the record's
+ * flag says. _I forms transform in place (for RToCCS the array holds N+2
+ * values). Checks: null record, then the record's kind (qspStsBadRecord), then
+ * the data pointers, then a null pBuffer while the record needs one.
+ */
+QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_32f_I(Qsp32f* pSrcDstRe, Qsp32f* pSrcDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_CToC_64f_I(Qsp64f* pSrcDstRe, Qsp64f* pSrcDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+
+/* FFTInv ------------------------------------------------------------------ */
+/*
+ * Inverse FFT, x[m] = sum over k of X[k] e^(+2 pi i k m / N), the exact inverse
+ * of FFTFwd up to the normalisation the record's flag chooses (flag 2 divides
+ * the inverse by N, 4 by sqrt(N)). PackToR, PermToR, CCSToR read a packed half
+ * spectrum and write N real values. Arguments and checks as in FFTFwd.
+ */
+QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_32f_I(Qsp32f* pSrcDstRe, Qsp32f* pSrcDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CToC_64f_I(Qsp64f* pSrcDstRe, Qsp64f* pSrcDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer);
+
+/* MulPack ----------------------------------------------------------------- */
+/*
+ * Multiplies two half spectra in Pack layout bin by bin: pSrcDst = pSrc *
+ * pSrcDst, where element 0 (and, for even len, element len-1) are real and the
+ * pairs in between complex. len is the packed length (N values).
+ */
+QspStatus qspsMulPack_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MulPackConj ------------------------------------------------------------- */
+/*
+ * As MulPack, with the in-place operand conjugated: pSrcDst = pSrc *
+ * conj(pSrcDst), bin by bin, in Pack layout.
+ */
+QspStatus qspsMulPackConj_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MulPerm ----------------------------------------------------------------- */
+/*
+ * Multiplies two half spectra in Perm layout bin by bin: pDst = pSrc1 * pSrc2,
+ * or in place pSrcDst = pSrc * pSrcDst. Element 0 and, for even len, element 1
+ * are real; the complex pairs follow. len is the packed length (N values).
+ */
+QspStatus qspsMulPerm_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMulPerm_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMulPerm_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMulPerm_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* ConjPerm ---------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in Perm layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values).
+ */
+QspStatus qspsConjPerm_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjPerm_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjPerm_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjPerm_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* ConjPack ---------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in Pack layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values). _L forms take a 64-bit length
+ * and run in one pass.
+ */
+QspStatus qspsConjPack_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjPack_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjPack_32fc_L(const Qsp32f* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsConjPack_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsConjPack_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjPack_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsConjPack_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsConjPack_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
+/* ConjCcs ----------------------------------------------------------------- */
+/*
+ * Expands a half spectrum in CCS layout (real values) into the complete
+ * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
+ * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
+ * values from the start of pSrcDst and writes the len complex values over them
+ * (the array holds len complex values). _L forms take a 64-bit length
+ * and run in one pass.
+ */
+QspStatus qspsConjCcs_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsConjCcs_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsConjCcs_32fc_L(const Qsp32f* pSrc, Qsp32fc* pDst, Qsp64s len);
+QspStatus qspsConjCcs_32fc_I_L(Qsp32fc* pSrcDst, Qsp64s len);
+QspStatus qspsConjCcs_64fc(const Qsp64f* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsConjCcs_64fc_I(Qsp64fc* pSrcDst, int len);
+QspStatus qspsConjCcs_64fc_L(const Qsp64f* pSrc, Qsp64fc* pDst, Qsp64s len);
+QspStatus qspsConjCcs_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
+
+/* Sum --------------------------------------------------------------------- */
+/*
+ * Sum of the elements: *pSum = sum of pSrc[i]. 32f/32fc accumulate by the hint
+ * (1 fast: single-precision blocks widened to double; else accurate: every
+ * element widened to double) and round the double total to single precision.
+ * 64f/64fc add in double. 16s32s and 16sc32sc sum exactly, scale by
+ * 2^-scaleFactor, saturate to 32 bits and round; 16s/16sc then saturate to 16
+ * bits; 32s sums in 64 bits. _L forms take a 64-bit length.
+ */
+QspStatus qspsSum_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pSum, int scaleFactor);
+QspStatus qspsSum_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pSum, int scaleFactor);
+QspStatus qspsSum_16sc32sc_Sfs(const Qsp16sc* pSrc, int len, Qsp32sc* pSum, int scaleFactor);
+QspStatus qspsSum_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pSum, int scaleFactor);
+QspStatus qspsSum_32f(const Qsp32f* pSrc, int len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pSum, QspHintAlgorithm hint);
+QspStatus qspsSum_64f(const Qsp64f* pSrc, int len, Qsp64f* pSum);
+QspStatus qspsSum_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pSum);
+QspStatus qspsSum_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pSum);
+QspStatus qspsSum_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pSum);
+
+/* Mean -------------------------------------------------------------------- */
+/*
+ * Mean of the elements: *pMean = (sum of pSrc[i]) / len, the sum formed as in
+ * Sum (with the hint for 32f/32fc) and divided in double. Integer forms scale
+ * by 2^-scaleFactor, saturate and round. _L forms take a 64-bit length.
+ */
+QspStatus qspsMean_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, int scaleFactor);
+QspStatus qspsMean_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pMean, int scaleFactor);
+QspStatus qspsMean_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32s* pMean, int scaleFactor);
+QspStatus qspsMean_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pMean, QspHintAlgorithm hint);
+QspStatus qspsMean_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean);
+QspStatus qspsMean_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMean);
+QspStatus qspsMean_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pMean);
+QspStatus qspsMean_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pMean);
+
+/* StdDev ------------------------------------------------------------------ */
+/*
+ * Sample standard deviation: *pStdDev = sqrt((len*Q - S^2) / (len*(len-1))),
+ * S the sum and Q the sum of squares, both in double; a negative numerator is
+ * taken as 0. len below 2 gives qspStsBadSize. 32f: hint 1 selects a fast
+ * kernel. Integer forms scale, saturate and round as Sum.
+ */
+QspStatus qspsStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pStdDev);
+
+/* MeanStdDev -------------------------------------------------------------- */
+/*
+ * Mean and sample standard deviation in one pass (see Mean and StdDev); len
+ * below 2 gives qspStsBadSize. The 32f form always uses the accurate kernel and
+ * ignores its hint.
+ */
+QspStatus qspsMeanStdDev_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16s* pMean, Qsp16s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pMean, Qsp32s* pStdDev, int scaleFactor);
+QspStatus qspsMeanStdDev_32f(const Qsp32f* pSrc, int len, Qsp32f* pMean, Qsp32f* pStdDev, QspHintAlgorithm hint);
+QspStatus qspsMeanStdDev_64f(const Qsp64f* pSrc, int len, Qsp64f* pMean, Qsp64f* pStdDev);
+
+/* Norm -------------------------------------------------------------------- */
+/*
+ * Vector norms: Inf *pNorm = max |pSrc[i]|; L1 sum of |pSrc[i]|; L2 sqrt(sum of
+ * |pSrc[i]|^2); L2Sqr sum of |pSrc[i]|^2 (complex: magnitudes). Two type codes:
+ * source, then result. 32f L2 accumulates squares in single precision. Sfs
+ * forms scale by 2^-scaleFactor and saturate (Inf_16s32s: truncating shifts).
+ * _L forms take a 64-bit length.
+ */
+QspStatus qspsNorm_Inf_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_Inf_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_32fc32f(const Qsp32fc* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_Inf_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_Inf_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L1_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L1_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L1_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_16s32s_Sfs(const Qsp16s* pSrc, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNorm_L2_32f(const Qsp32f* pSrc, int len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pNorm);
+QspStatus qspsNorm_L2_32fc64f(const Qsp32fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_32fc64f_L(const Qsp32fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f(const Qsp64f* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f(const Qsp64fc* pSrc, int len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2_64fc64f_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64f* pNorm);
+QspStatus qspsNorm_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc, int len, Qsp64s* pNorm, int scaleFactor);
+
+/* NormDiff ---------------------------------------------------------------- */
+/*
+ * Norms of the difference pSrc1[i] - pSrc2[i], as Norm computes them of one
+ * vector; same type set and scaling.
+ */
+QspStatus qspsNormDiff_Inf_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_Inf_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_32fc32f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_Inf_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_Inf_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L1_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L1_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L1_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pNorm, int scaleFactor);
+QspStatus qspsNormDiff_L2_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pNorm);
+QspStatus qspsNormDiff_L2_32fc64f(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2_64fc64f(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64f* pNorm);
+QspStatus qspsNormDiff_L2Sqr_16s64s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pNorm, int scaleFactor);
+
+/* DotProd ----------------------------------------------------------------- */
+/*
+ * Dot product: *pDp = sum of pSrc1[i] * pSrc2[i], without conjugation. Type
+ * codes: both sources, then the result (16s32f: 16s sources, 32f result;
+ * 32f32fc: a 32f and a 32fc source, 32fc result; 16s32s32s: 16s and 32s
+ * sources, 32s result). 32f accumulates in single precision in six lanes; Sfs
+ * forms scale by 2^-scaleFactor, round and saturate. _L forms take a 64-bit
+ * length.
+ */
+QspStatus qspsDotProd_16s16sc64sc(const Qsp16s* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_16s32s32s_Sfs(const Qsp16s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s32s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_16s64s(const Qsp16s* pSrc1, const Qsp16s* pSrc2, int len, Qsp64s* pDp);
+QspStatus qspsDotProd_16sc64sc(const Qsp16sc* pSrc1, const Qsp16sc* pSrc2, int len, Qsp64sc* pDp);
+QspStatus qspsDotProd_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp32f* pDp);
+QspStatus qspsDotProd_32f32fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f32fc64fc_L(const Qsp32f* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32f64f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_32f64f_L(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp32fc* pDp);
+QspStatus qspsDotProd_32fc64fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32fc64fc_L(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_32s_Sfs(const Qsp32s* pSrc1, const Qsp32s* pSrc2, int len, Qsp32s* pDp, int scaleFactor);
+QspStatus qspsDotProd_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, int len, Qsp64f* pDp);
+QspStatus qspsDotProd_64f64fc(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f64fc_L(const Qsp64f* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64f_L(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64s len, Qsp64f* pDp);
+QspStatus qspsDotProd_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, int len, Qsp64fc* pDp);
+QspStatus qspsDotProd_64fc_L(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64s len, Qsp64fc* pDp);
+
+/* SumLn ------------------------------------------------------------------- */
+/*
+ * Sum of natural logarithms: *pSum = sum of ln(pSrc[i]), formed in blocks of
+ * 512 from the binary exponents (added as integers) and the mantissas in
+ * [0.5, 1) (multiplied in double): a block adds (exponent sum) ln 2 + ln of
+ * its product; blocks add in double. The first special element decides: a
+ * zero gives +infinity and the warning qspStsWarnLogOfZero (kept so, though
+ * the limit is -infinity); a set sign bit (negative values, -0.0) a NaN and
+ * qspStsWarnLogOfNegative; a NaN a NaN and qspStsOk; +infinity +infinity and
+ * qspStsOk. The NaN results have the sign bit set.
+ */
+QspStatus qspsSumLn_16s32f(const Qsp16s* pSrc, int len, Qsp32f* pSum);
+QspStatus qspsSumLn_32f(const Qsp32f* pSrc, int len, Qsp32f* pSum);
+QspStatus qspsSumLn_32f64f(const Qsp32f* pSrc, int len, Qsp64f* pSum);
+QspStatus qspsSumLn_64f(const Qsp64f* pSrc, int len, Qsp64f* pSum);
+
+/* Max --------------------------------------------------------------------- */
+/*
+ * Largest element: *pMax = max pSrc[i] (a step keeps the current value while it
+ * compares greater, so NaN elements follow that rule lane by lane). _L forms
+ * take a 64-bit length.
+ */
+QspStatus qspsMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax);
+QspStatus qspsMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax);
+QspStatus qspsMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax);
+QspStatus qspsMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax);
+QspStatus qspsMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax);
+QspStatus qspsMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax);
+
+/* Min --------------------------------------------------------------------- */
+/*
+ * Smallest element: *pMin = min pSrc[i], the mirror of Max.
+ */
+QspStatus qspsMin_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin);
+QspStatus qspsMin_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin);
+QspStatus qspsMin_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin);
+QspStatus qspsMin_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin);
+QspStatus qspsMin_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin);
+QspStatus qspsMin_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin);
+
+/* MaxIndx ----------------------------------------------------------------- */
+/*
+ * Largest element and the lowest index holding it (ordered comparisons: a NaN
+ * never replaces the best, a NaN at index 0 stays). pIndx may be null; the
+ * call is then Max. _L forms take a 64-bit length and give a 64-bit index.
+ */
+QspStatus qspsMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMax, Qsp64s* pIndx);
+QspStatus qspsMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMax, int* pIndx);
+QspStatus qspsMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMax, Qsp64s* pIndx);
+
+/* MinIndx ----------------------------------------------------------------- */
+/*
+ * Smallest element and the lowest index holding it; the mirror of MaxIndx.
+ */
+QspStatus qspsMinIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pIndx);
+QspStatus qspsMinIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pIndx);
+QspStatus qspsMinIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pIndx);
+QspStatus qspsMinIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pIndx);
+
+/* MinMax ------------------------------------------------------------------ */
+/*
+ * Smallest and largest element in one pass: *pMin, *pMax.
+ */
+QspStatus qspsMinMax_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, Qsp8u* pMax);
+QspStatus qspsMinMax_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, Qsp16s* pMax);
+QspStatus qspsMinMax_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, Qsp16u* pMax);
+QspStatus qspsMinMax_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp32f* pMax);
+QspStatus qspsMinMax_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, Qsp32s* pMax);
+QspStatus qspsMinMax_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, Qsp32u* pMax);
+QspStatus qspsMinMax_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, Qsp64f* pMax);
+QspStatus qspsMinMax_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64f* pMax);
+
+/* MinMaxIndx -------------------------------------------------------------- */
+/*
+ * Smallest and largest element with the lowest index of each (an extreme that
+ * is a NaN reports index 0). All four outputs are required.
+ */
+QspStatus qspsMinMaxIndx_8u(const Qsp8u* pSrc, int len, Qsp8u* pMin, int* pMinIndx, Qsp8u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMin, int* pMinIndx, Qsp16s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_16u(const Qsp16u* pSrc, int len, Qsp16u* pMin, int* pMinIndx, Qsp16u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMin, int* pMinIndx, Qsp32f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMin, Qsp64s* pMinIndx, Qsp32f* pMax, Qsp64s* pMaxIndx);
+QspStatus qspsMinMaxIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMin, int* pMinIndx, Qsp32s* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_32u(const Qsp32u* pSrc, int len, Qsp32u* pMin, int* pMinIndx, Qsp32u* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMin, int* pMinIndx, Qsp64f* pMax, int* pMaxIndx);
+QspStatus qspsMinMaxIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMin, Qsp64s* pMinIndx, Qsp64f* pMax, Qsp64s* pMaxIndx);
+
+/* MaxAbs ------------------------------------------------------------------ */
+/*
+ * Largest magnitude: *pMaxAbs = max |pSrc[i]|. For 16s the magnitude is taken
+ * unsigned, so -32768 is the largest; its value saturates to 32767.
+ */
+QspStatus qspsMaxAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs);
+QspStatus qspsMaxAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs);
+QspStatus qspsMaxAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs);
+QspStatus qspsMaxAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs);
+QspStatus qspsMaxAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs);
+
+/* MinAbs ------------------------------------------------------------------ */
+/*
+ * Smallest magnitude: *pMinAbs = min |pSrc[i]|.
+ */
+QspStatus qspsMinAbs_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs);
+QspStatus qspsMinAbs_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs);
+QspStatus qspsMinAbs_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs);
+QspStatus qspsMinAbs_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs);
+QspStatus qspsMinAbs_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs);
+
+/* MaxAbsIndx -------------------------------------------------------------- */
+/*
+ * Largest magnitude and the lowest index holding it (16s: -32768 is the
+ * largest magnitude). pIndx may be null.
+ */
+QspStatus qspsMaxAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMaxAbs, Qsp64s* pIndx);
+QspStatus qspsMaxAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMaxAbs, int* pIndx);
+QspStatus qspsMaxAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMaxAbs, Qsp64s* pIndx);
+
+/* MinAbsIndx -------------------------------------------------------------- */
+/*
+ * Smallest magnitude and the lowest index holding it. pIndx may be null.
+ */
+QspStatus qspsMinAbsIndx_16s(const Qsp16s* pSrc, int len, Qsp16s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f(const Qsp32f* pSrc, int len, Qsp32f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32f* pMinAbs, Qsp64s* pIndx);
+QspStatus qspsMinAbsIndx_32s(const Qsp32s* pSrc, int len, Qsp32s* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f(const Qsp64f* pSrc, int len, Qsp64f* pMinAbs, int* pIndx);
+QspStatus qspsMinAbsIndx_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64f* pMinAbs, Qsp64s* pIndx);
+
+/* MaxEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise maximum of two vectors: pDst[i] = the larger of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMaxEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMaxEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMaxEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMaxEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMaxEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMaxEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMaxEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMaxEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* MinEvery ---------------------------------------------------------------- */
+/*
+ * Element-wise minimum of two vectors: pDst[i] = the smaller of pSrc1[i] and
+ * pSrc2[i]; the _I forms write into the second operand, pSrcDst.
+ */
+QspStatus qspsMinEvery_8u(const Qsp8u* pSrc1, const Qsp8u* pSrc2, Qsp8u* pDst, int len);
+QspStatus qspsMinEvery_8u_I(const Qsp8u* pSrc, Qsp8u* pSrcDst, int len);
+QspStatus qspsMinEvery_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
+QspStatus qspsMinEvery_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
+QspStatus qspsMinEvery_16s_I(const Qsp16s* pSrc, Qsp16s* pSrcDst, int len);
+QspStatus qspsMinEvery_32s_I(const Qsp32s* pSrc, Qsp32s* pSrcDst, int len);
+QspStatus qspsMinEvery_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
+QspStatus qspsMinEvery_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
+QspStatus qspsMinEvery_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int len);
+QspStatus qspsMinEvery_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
+
+/* SortRadix --------------------------------------------------------------- */
+/*
+ * In-place radix sorts, ascending or descending, with a work buffer of
+ * qspsSortRadixGetBufferSize(len, type) bytes (no alignment needed; the
+ * sort overwrites it). The size query takes a data-type code: qsp8u (len +
+ * 1024 bytes), qsp16u or qsp16s (2*len + 2048), qsp32u, qsp32s or qsp32f
+ * (4*len + 20480), qsp64u or qsp64s (8*len + 81920), qsp64f (8*len +
+ * 40960); any other code writes 0 and returns qspStsBadDataType. A size
+ * that does not fit the result type gives qspStsOverflow (_L: 2^63 or
+ * more) and writes nothing. Checks: size pointer, then len below 1.
+ * Sorts: pSrcDst or pBuffer null gives qspStsNullPtr, len below 1
+ * qspStsBadSize; _L forms take a 64-bit len and check it first.
+ * Order: integers by value. Floating values by the total order of their
+ * bit patterns: -NaN < -Inf < ... < -0.0 < +0.0 < ... < +Inf < +NaN (NaNs
+ * among themselves by payload); descending is the exact reverse. Bytes are
+ * sorted by counting; wider types by stable radix passes of 8 bits
+ * (16-bit), 11+11+10 bits (32-bit) or 4x11+2x10 bits (64-bit).
+ * Thread-safe when no two calls share a vector or buffer.
+ */
+QspStatus qspsSortRadixGetBufferSize(int len, QspDataType dataType, int* pBufferSize);
+QspStatus qspsSortRadixGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize);
+QspStatus qspsSortRadixAscend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixAscend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_8u_I(Qsp8u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_16u_I(Qsp16u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_16s_I(Qsp16s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32u_I(Qsp32u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32s_I(Qsp32s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32f_I(Qsp32f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64u_I(Qsp64u* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64u_I_L(Qsp64u* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64s_I(Qsp64s* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64s_I_L(Qsp64s* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64f_I(Qsp64f* pSrcDst, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len, Qsp8u* pBuffer);
+
+/* Sort -------------------------------------------------------------------- */
+/*
+ * In-place comparison sort, ascending or descending, needing no buffer.
+ * Floating values order as in SortRadix (NaNs by their bit patterns). Not
+ * stable (equal values are indistinguishable). _L forms take a 64-bit
+ * length.
+ */
+QspStatus qspsSortAscend_8u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsSortAscend_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsSortAscend_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsSortAscend_32s_I(Qsp32s* pSrcDst, int len);
+QspStatus qspsSortAscend_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsSortAscend_64s_I(Qsp64s* pSrcDst, int len);
+QspStatus qspsSortAscend_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsSortAscend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len);
+QspStatus qspsSortAscend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSortAscend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
+QspStatus qspsSortDescend_8u_I(Qsp8u* pSrcDst, int len);
+QspStatus qspsSortDescend_16u_I(Qsp16u* pSrcDst, int len);
+QspStatus qspsSortDescend_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsSortDescend_32s_I(Qsp32s* pSrcDst, int len);
+QspStatus qspsSortDescend_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsSortDescend_64s_I(Qsp64s* pSrcDst, int len);
+QspStatus qspsSortDescend_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsSortDescend_32s_I_L(Qsp32s* pSrcDst, Qsp64s len);
+QspStatus qspsSortDescend_32f_I_L(Qsp32f* pSrcDst, Qsp64s len);
+QspStatus qspsSortDescend_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
+
+/* SortIndex --------------------------------------------------------------- */
+/*
+ * Sorts a vector in place, ascending or descending, and writes beside it the
+ * permutation: pDstIndx[j] is the original index of the value now at j. Equal
+ * values keep their original order.
+ */
+QspStatus qspsSortIndexAscend_8u_I(Qsp8u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_16u_I(Qsp16u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_16s_I(Qsp16s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_32s_I(Qsp32s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_32f_I(Qsp32f* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexAscend_64f_I(Qsp64f* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_8u_I(Qsp8u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_16u_I(Qsp16u* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_16s_I(Qsp16s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_32s_I(Qsp32s* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_32f_I(Qsp32f* pSrcDst, int* pDstIndx, int len);
+QspStatus qspsSortIndexDescend_64f_I(Qsp64f* pSrcDst, int* pDstIndx, int len);
+
+/* SortRadixIndex ---------------------------------------------------------- */
+/*
+ * Writes the sorting permutation of a vector without moving it: pDstIndx[j] is
+ * the index of the j-th smallest (Ascend) or largest (Descend) element, equal
+ * values in index order. The work buffer's size comes from
+ * SortRadixIndexGetBufferSize for len and the type code. _L forms take 64-bit
+ * lengths and indices.
+ */
+QspStatus qspsSortRadixIndexGetBufferSize(int len, QspDataType dataType, int* pBufferSize);
+QspStatus qspsSortRadixIndexGetBufferSize_L(Qsp64s len, QspDataType dataType, Qsp64s* pBufferSize);
+QspStatus qspsSortRadixIndexAscend_8u(const Qsp8u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_16u(const Qsp16u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_16s(const Qsp16s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32u(const Qsp32u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32s(const Qsp32s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32s_L(const Qsp32s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32f(const Qsp32f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_32f_L(const Qsp32f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64u(const Qsp64u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64s(const Qsp64s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64s_L(const Qsp64s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64f(const Qsp64f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexAscend_64f_L(const Qsp64f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_8u(const Qsp8u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_16u(const Qsp16u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_16s(const Qsp16s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32u(const Qsp32u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32s(const Qsp32s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32s_L(const Qsp32s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32f(const Qsp32f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_32f_L(const Qsp32f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64u(const Qsp64u* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64s(const Qsp64s* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64s_L(const Qsp64s* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64f(const Qsp64f* pSrc, int* pDstIndx, int len, Qsp8u* pBuffer);
+QspStatus qspsSortRadixIndexDescend_64f_L(const Qsp64f* pSrc, Qsp64s* pDstIndx, Qsp64s len, Qsp8u* pBuffer);
 
 #ifdef __cplusplus
 }

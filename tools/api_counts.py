@@ -7,10 +7,10 @@ into it, as the 64f of IIR64f or the 32f of FIRSRInit32f, which is part of
 the stem and not a type code). Of the remaining pieces:
 
   - a piece made only of type codes (digits followed by u, s or f, with an
-    optional c for complex: 32f, 64fc, 16s32f, 16s16sc64sc, 24u, 1u) is a type
-    piece; each type code it contains counts once for the name, so
-    qspsConvert_16s32f counts for 16s and for 32f, and qspsDotProd_32f is one
-    32f however often 32f is written;
+    optional c for complex) is the name's type piece, and it is counted as
+    one code, as written: qspsAdd_32f counts for 32f, qspsConvert_16s32f for
+    16s32f (not for 16s nor for 32f), qspsNorm_L2_32fc64f for 32fc64f. So
+    the figure of 32f is the number of names that work on 32f vectors alone;
   - a piece equal to I, L, Sfs or ISfs is a suffix and counts for that
     suffix: qspsFlip_32f_I_L carries I and L, qspsMulC_32s_ISfs_L carries
     ISfs and L. ISfs is its own suffix (it is not also counted as I or as
@@ -32,19 +32,18 @@ sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import qspapi  # noqa: E402
 
 TYPE_PIECE = re.compile(r'^(?:\d+[usf]c?)+$')
-TYPE_CODE = re.compile(r'\d+[usf]c?')
 SUFFIXES = ('I', 'L', 'Sfs', 'ISfs')
+PRECISION_IN_STEM = re.compile(r'(?:\d+[usf]c?)+$')
 
 
 def pieces(name):
-    """Stem, type codes (distinct, in order), suffixes and mode words of a name."""
+    """Stem, type pieces, suffixes and mode words of a name."""
     parts = name[len('qsps'):].split('_')
     codes, suffixes, modes = [], [], []
     for p in parts[1:]:
         if TYPE_PIECE.match(p):
-            for c in TYPE_CODE.findall(p):
-                if c not in codes:
-                    codes.append(c)
+            if p not in codes:
+                codes.append(p)
         elif p in SUFFIXES:
             suffixes.append(p)
         else:
@@ -106,32 +105,44 @@ def markdown(families, by_suffix, by_type, total):
     w('Arguments always come in this order: sources, destination, length, mode')
     w('arguments, scale factor; records and work buffers after the data.')
     w('')
-    w('To find a function: take the operation, look its family up below, then')
+    w('To find a function: take the operation (the part of the name between')
+    w('`qsps` and the first `_`), find the family that lists it below, then')
     w('pick the row in `api/qsps.api` (the family\'s block there says the formula,')
     w('operand order and scaling) whose type codes and suffixes match your data.')
+    w('The source of a family lives in `src/<folder>/`, in a file named after')
+    w('the family.')
     w('')
     w('## Families')
     w('')
-    w('| Family | Folder | Functions | Implemented |')
-    w('|---|---|---:|---:|')
+    w('Which rows are implemented is marked in the table itself (`+`).')
+    w('')
+    w('| Family | Folder | Functions | Operations in it |')
+    w('|---|---|---:|---|')
     for fam in families:
-        done = sum(1 for e in fam.exports if e.implemented)
-        w('| %s | %s | %d | %d |' % (fam.name, fam.folder, len(fam.exports), done))
-    implemented = sum(1 for fam in families for e in fam.exports if e.implemented)
-    w('| **all** | | **%d** | **%d** |' % (total, implemented))
+        stems = []
+        for e in fam.exports:
+            stem, _, _, modes = pieces(e.name)
+            stem = PRECISION_IN_STEM.sub('', stem)
+            op = '_'.join([stem] + modes[:1]) if fam.name == 'Div_Round' else stem
+            if op not in stems:
+                stems.append(op)
+        w('| %s | %s | %d | %s |' % (fam.name, fam.folder, len(fam.exports),
+                                     ', '.join('`%s`' % x for x in stems)))
+    w('| **all %d families** | | **%d** | |' % (len(families), total))
     w('')
     w('## Counts')
     w('')
     w('Counted as `tools/api_counts.py` states in its description: a name counts')
     w('once for each suffix piece it carries (ISfs is not also I or Sfs) and')
-    w('once for each distinct type code in its type pieces.')
+    w('once for its type piece, taken whole (`16s32f` is its own entry, not')
+    w('also `16s` and `32f`).')
     w('')
     w('| Suffix | Names |')
     w('|---|---:|')
     for s in SUFFIXES:
         w('| `%s` | %d |' % (s, by_suffix[s]))
     w('')
-    w('| Type code | Names |')
+    w('| Type piece | Names |')
     w('|---|---:|')
     for code, n in sorted(by_type.items(), key=lambda kv: (-kv[1], kv[0])):
         w('| `%s` | %d |' % (code, n))
@@ -163,7 +174,7 @@ def main():
         total, sum(e.implemented for e in exports), sum(not e.implemented for e in exports)))
     print('families %d' % len(families))
     print('suffixes: ' + ', '.join('%s %d' % (s, by_suffix[s]) for s in SUFFIXES))
-    print('type codes: ' + ', '.join('%s %d' % (c, n) for c, n in
+    print('type pieces: ' + ', '.join('%s %d' % (c, n) for c, n in
                                      sorted(by_type.items(), key=lambda kv: (-kv[1], kv[0]))))
     if a.expect_total is not None and total != a.expect_total:
         print('error: %d rows, expected %d' % (total, a.expect_total))

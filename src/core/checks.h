@@ -30,4 +30,12 @@ constexpr QspStatus vectors(Qsp64s len, const P*... p)
     return length(len);
 }
 
+// The 64-bit length forms: the length first, then the pointers.
+template <class... P>
+constexpr QspStatus vectorsL(Qsp64s len, const P*... p)
+{
+    if (QspStatus s = length(len)) return s;
+    return pointers(p...);
+}
+
 }  // namespace check

@@ -24,7 +24,7 @@ void ownsFlip(const E* pSrc, E* pDst, Qsp64s len)
         V::storeu(pDst + i + 3 * L, V::reverse(d));
     }
     for (; i + L <= len; i += L) V::storeu(pDst + i, V::reverse(V::loadu(back - i - L)));
-    for (; i < len; ++i) pDst[i] = back[-1 - i];
+    for (; i < len; ++i) simd::storeOne(pDst + i, simd::loadOne(back - 1 - i));
 }
 
 // Swaps registers from both ends towards the middle; what is left between
@@ -51,9 +51,9 @@ void ownsFlipCommon_I_L(E* pSrcDst, Qsp64s len)
         V::storeu(hi - L, V::reverse(a));
     }
     for (; hi - lo >= 2; ++lo, --hi) {
-        const E t = *lo;
-        *lo = hi[-1];
-        hi[-1] = t;
+        const E t = simd::loadOne(lo);
+        simd::storeOne(lo, simd::loadOne(hi - 1));
+        simd::storeOne(hi - 1, t);
     }
 }
 

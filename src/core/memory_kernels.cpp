@@ -8,55 +8,64 @@ using V = simd::Vec<Qsp8u>;
 using Reg = V::Reg;
 
 // Above this many bytes a fill or copy bypasses the caches: the data would
-// evict the whole cache anyway, and non-temporal stores save the read of
-// every destination line.
-constexpr Qsp64s kStreamBytes = Qsp64s(4) << 20;
+// evict most of the last-level cache anyway, and non-temporal stores save
+// the read of every destination line.
+constexpr Qsp64s kStreamBytes = Qsp64s(32) << 20;
+
+// From this size up to kStreamBytes the processor's string instructions
+// move data faster than 16-byte registers can: on processors with fast
+// string operations they write whole cache lines at a time.
+constexpr Qsp64s kStringBytes = 2048;
+
+inline void repMovsb(const Qsp8u* s, Qsp8u* d, Qsp64s n)
+{
+    __asm__ volatile("rep movsb" : "+D"(d), "+S"(s), "+c"(n) : : "memory");
+}
+
+// Stores `words` copies of an 8-byte value.
+inline void repStosq(Qsp8u* d, Qsp64u value, Qsp64s words)
+{
+    __asm__ volatile("rep stosq" : "+D"(d), "+c"(words) : "a"(value) : "memory");
+}
+
+// True when the pattern's two halves are equal, so an 8-byte fill serves
+// (every element size up to 8 bytes).
+inline bool isEightByteSplat(Reg pattern)
+{
+    return _mm_movemask_epi8(_mm_cmpeq_epi64(pattern, _mm_unpacklo_epi64(pattern, pattern))) == 0xFFFF;
+}
 
 inline Qsp64s misalignment(const void* p) { return reinterpret_cast<Qsp64u>(p) & 15; }
 
-// Up to 16 bytes, loading everything before storing anything so that
-// overlapping vectors are moved correctly.
-inline void moveUpTo16(const Qsp8u* s, Qsp8u* d, Qsp64s n)
+// 2 to 2 * sizeof(W) bytes as two possibly overlapping words, the first
+// and the last, both loaded before either is stored so that overlapping
+// vectors are moved correctly.
+template <class W>
+inline void moveBothEnds(const Qsp8u* s, Qsp8u* d, Qsp64s n)
 {
-    if (n >= 8) {
-        Qsp64u a, b;
-        __builtin_memcpy(&a, s, 8);
-        __builtin_memcpy(&b, s + n - 8, 8);
-        __builtin_memcpy(d, &a, 8);
-        __builtin_memcpy(d + n - 8, &b, 8);
-    } else if (n >= 4) {
-        Qsp32u a, b;
-        __builtin_memcpy(&a, s, 4);
-        __builtin_memcpy(&b, s + n - 4, 4);
-        __builtin_memcpy(d, &a, 4);
-        __builtin_memcpy(d + n - 4, &b, 4);
-    } else if (n >= 2) {
-        Qsp16u a, b;
-        __builtin_memcpy(&a, s, 2);
-        __builtin_memcpy(&b, s + n - 2, 2);
-        __builtin_memcpy(d, &a, 2);
-        __builtin_memcpy(d + n - 2, &b, 2);
-    } else {
-        d[0] = s[0];
-    }
+    W first, last;
+    __builtin_memcpy(&first, s, sizeof(W));
+    __builtin_memcpy(&last, s + n - sizeof(W), sizeof(W));
+    __builtin_memcpy(d, &first, sizeof(W));
+    __builtin_memcpy(d + n - sizeof(W), &last, sizeof(W));
 }
 
-// Up to 64 bytes with overlapping 16-byte registers, all loads first.
+// Up to 64 bytes with overlapping words and registers, all loads first.
 inline void moveUpTo64(const Qsp8u* s, Qsp8u* d, Qsp64s n)
 {
-    if (n <= 16) return moveUpTo16(s, d, n);
-    if (n <= 32) {
-        const Reg a = V::loadu(s), b = V::loadu(s + n - 16);
+    if (n == 1) d[0] = s[0];
+    else if (n < 4) moveBothEnds<Qsp16u>(s, d, n);
+    else if (n < 8) moveBothEnds<Qsp32u>(s, d, n);
+    else if (n <= 16) moveBothEnds<Qsp64u>(s, d, n);
+    else if (n <= 32) moveBothEnds<Reg>(s, d, n);
+    else {
+        const Reg a = V::loadu(s), b = V::loadu(s + 16);
+        const Reg c = V::loadu(s + n - 32), e = V::loadu(s + n - 16);
         V::storeu(d, a);
-        V::storeu(d + n - 16, b);
-        return;
+        V::storeu(d + 16, b);
+        V::storeu(d + n - 32, c);
+        V::storeu(d + n - 16, e);
     }
-    const Reg a = V::loadu(s), b = V::loadu(s + 16);
-    const Reg c = V::loadu(s + n - 32), e = V::loadu(s + n - 16);
-    V::storeu(d, a);
-    V::storeu(d + 16, b);
-    V::storeu(d + n - 32, c);
-    V::storeu(d + n - 16, e);
 }
 
 struct Block64 {
@@ -144,6 +153,12 @@ void ownsFill_128(__m128i pattern, Qsp8u* pDst, Qsp64s bytes)
         for (Qsp64s i = 0; i < bytes; ++i) pDst[i] = bytesOfPattern[i];
         return;
     }
+    if (bytes >= kStringBytes && bytes < kStreamBytes && isEightByteSplat(pattern)) {
+        repStosq(pDst, Qsp64u(_mm_cvtsi128_si64(pattern)), bytes / 8);
+        // The bytes the 8-byte stores leave over: one store of the last 16.
+        V::storeu(pDst + bytes - 16, rotated(pattern, bytes - 16));
+        return;
+    }
     V::storeu(pDst, pattern);
     const Qsp64s skip = (16 - misalignment(pDst)) & 15;
     const Reg inPhase = rotated(pattern, skip);
@@ -162,6 +177,7 @@ void ownsCopy_8u_L(const Qsp8u* pSrc, Qsp8u* pDst, Qsp64s bytes)
 {
     if (bytes <= 64) moveUpTo64(pSrc, pDst, bytes);
     else if (bytes >= kStreamBytes) moveForward<true>(pSrc, pDst, bytes);
+    else if (bytes >= kStringBytes) repMovsb(pSrc, pDst, bytes);
     else moveForward<false>(pSrc, pDst, bytes);
 }
 

@@ -20,6 +20,27 @@ namespace simd {
 
 constexpr int kBytes = 16;
 
+// Scalar access that makes no alignment assumption: callers may hand us
+// element pointers at any byte address, and the compiler turns these into
+// plain moves.
+template <class T>
+inline T loadOne(const T* p)
+{
+    T x;
+    __builtin_memcpy(&x, p, sizeof(T));
+    return x;
+}
+
+template <class T>
+inline void storeOne(T* p, const T& x)
+{
+    __builtin_memcpy(p, &x, sizeof(T));
+}
+
+// Asks for the cache line holding p ahead of its use. Only a hint: it never
+// faults, whatever the address.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+
 // Operations on the raw 128 bits, shared by all integer element types.
 struct IntRegOps {
     using Reg = __m128i;
@@ -43,6 +64,11 @@ struct Vec<Qsp8u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
     }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu8(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu8(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi8(a, b); }
+    // One bit per lane: the top bit of each lane.
+    static int anyMask(Reg a) { return _mm_movemask_epi8(a); }
 };
 
 template <>
@@ -53,6 +79,11 @@ struct Vec<Qsp16u> : IntRegOps {
     {
         return _mm_shuffle_epi8(r, _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1));
     }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu16(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu16(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
+    // One bit per lane of a comparison result (all-ones or all-zero lanes).
+    static int anyMask(Reg a) { return _mm_movemask_epi8(_mm_packs_epi16(a, _mm_setzero_si128())); }
 };
 
 template <>
@@ -60,6 +91,10 @@ struct Vec<Qsp32u> : IntRegOps {
     static constexpr int lanes = 4;
     static Reg splat(Qsp32u x) { return _mm_set1_epi32(static_cast<int>(x)); }
     static Reg reverse(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(0, 1, 2, 3)); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epu32(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epu32(a, b); }
+    static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
+    static int anyMask(Reg a) { return _mm_movemask_ps(_mm_castsi128_ps(a)); }
 };
 
 template <>
@@ -106,6 +141,24 @@ struct Vec<float> {
     static Reg swapParts(Reg a) { return _mm_shuffle_ps(a, a, _MM_SHUFFLE(2, 3, 0, 1)); }
     static Reg addsub(Reg a, Reg b) { return _mm_addsub_ps(a, b); }
     static Reg signBit() { return _mm_castsi128_ps(_mm_set1_epi32(int(0x80000000u))); }
+    // Halves of two registers of complex pairs, and single pairs.
+    static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
+    static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
+    // One 8-byte pair repeated in both halves (p need not be aligned).
+    static Reg loadPairDup(const float* p)
+    {
+        return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)));
+    }
+    // One 8-byte pair alone in the low half, the high half zero.
+    static Reg loadPair(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
+    static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
+    static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
+    // Split and join of complex pairs: evens/odds take the real/imaginary
+    // parts of a0 a1 b0 b1 (as pairs); zipLo/zipHi interleave two registers.
+    static Reg evens(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)); }
+    static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
 };
 
 template <>
@@ -142,7 +195,34 @@ struct Vec<double> {
     static Reg swapParts(Reg a) { return _mm_shuffle_pd(a, a, 1); }
     static Reg addsub(Reg a, Reg b) { return _mm_addsub_pd(a, b); }
     static Reg signBit() { return _mm_castsi128_pd(_mm_set1_epi64x(0x8000000000000000ll)); }
+    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }  // a0, b0
+    static Reg highHalves(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); } // a1, b1
+    static Reg negOdd(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(0.0, -0.0)); }
+    static Reg negEven(Reg r) { return _mm_xor_pd(r, _mm_setr_pd(-0.0, 0.0)); }
+    static Reg evens(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg odds(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
+    static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_pd(a, b); }
+    static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_pd(a, b); }
+    // Lanes 0, 1 or lanes 2, 3 of a register of floats, widened exactly.
+    static Reg widenLow(__m128 f) { return _mm_cvtps_pd(f); }
+    static Reg widenHigh(__m128 f) { return _mm_cvtps_pd(_mm_movehl_ps(f, f)); }
 };
+
+// Scalar conversions and roots done by the processor's instructions (no
+// library calls): x to a 32-bit integer under the current rounding mode;
+// x rounded to the nearest integer, ties to even, whatever the mode; the
+// correctly rounded square root.
+inline Qsp32s toInt32Current(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+inline double roundEven(double x)
+{
+    const __m128d v = _mm_set_sd(x);
+    return _mm_cvtsd_f64(_mm_round_sd(v, v, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC));
+}
+// A float widened to double by the instruction itself: a value rounded to
+// single precision and widened again stays rounded (a plain conversion
+// pair may be folded away by the vectorizer).
+inline double widenOne(float x) { return _mm_cvtsd_f64(_mm_cvtss_sd(_mm_setzero_pd(), _mm_set_ss(x))); }
+inline double sqrtOne(double x) { return _mm_cvtsd_f64(_mm_sqrt_sd(_mm_setzero_pd(), _mm_set_sd(x))); }
 
 // A 16-byte element handled only as bits (complex double, complex 64-bit
 // integer): one per register.
@@ -193,7 +273,8 @@ struct Vec<Qsp16s> : IntRegOps {
     static Reg cmplt(Reg a, Reg b) { return _mm_cmplt_epi16(a, b); }
     static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi16(a, b); }
     static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
-    static Reg abs(Reg a) { return _mm_abs_epi16(a); }  // -32768 stays -32768
+    // Magnitudes as unsigned lanes: -32768 keeps its pattern, 32768.
+    static Reg abs(Reg a) { return _mm_abs_epi16(a); }
     static Reg neg(Reg a) { return _mm_sub_epi16(_mm_setzero_si128(), a); }
     static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
     static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }
@@ -205,6 +286,7 @@ struct Vec<Qsp16s> : IntRegOps {
     static Reg mulWideHi(Reg a, Reg b) { return _mm_unpackhi_epi16(_mm_mullo_epi16(a, b), _mm_mulhi_epi16(a, b)); }
     // Lanes exchanged within each pair (the parts of complex elements).
     static Reg swapPairs(Reg a) { return _mm_shufflehi_epi16(_mm_shufflelo_epi16(a, 0xB1), 0xB1); }
+    static int anyMask(Reg a) { return Vec<Qsp16u>::anyMask(a); }
 };
 
 template <>
@@ -222,7 +304,10 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi32(a, b); }
     static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi32(a, b); }
     static Reg cmplt(Reg a, Reg b) { return _mm_cmplt_epi32(a, b); }
-    static Reg abs(Reg a) { return _mm_abs_epi32(a); }  // -2^31 stays -2^31
+    // Magnitudes as unsigned lanes: the most negative value keeps its
+    // pattern, 2^31.
+    static Reg abs(Reg a) { return _mm_abs_epi32(a); }
+    static int anyMask(Reg a) { return Vec<Qsp32u>::anyMask(a); }
     static Reg neg(Reg a) { return _mm_sub_epi32(_mm_setzero_si128(), a); }
     static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
     static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }

@@ -38,7 +38,7 @@ void ownsSwapBytes(const T* pSrc, T* pDst, Qsp64s len)
         V::storeu(pDst + i, V::shuffleBytes(a, order));
         V::storeu(pDst + i + L, V::shuffleBytes(b, order));
     }
-    for (; i < len; ++i) pDst[i] = swapped(pSrc[i]);
+    for (; i < len; ++i) simd::storeOne(pDst + i, swapped(simd::loadOne(pSrc + i)));
 }
 
 // Five three-byte elements per register; the sixteenth byte is carried

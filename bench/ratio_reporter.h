@@ -1,0 +1,62 @@
+// Benchmark output as ratios: every benchmark named "qsp/<case>" that has a
+// twin "<peer>/<case>" gets a line peer-time / qsp-time, so that a ratio
+// above 1 means the library is faster. Absolute times on a shared machine
+// say little; ratios of runs made side by side say more.
+#pragma once
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace qspbench {
+
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& r : runs) {
+            if (r.run_type != Run::RT_Iteration || r.error_occurred) continue;
+            const std::string name = r.benchmark_name();
+            const auto slash = name.find('/');
+            if (slash == std::string::npos) continue;
+            times_[name.substr(slash + 1)][name.substr(0, slash)] = r.GetAdjustedRealTime();
+            if (seen_.insert(name.substr(slash + 1)).second) order_.push_back(name.substr(slash + 1));
+        }
+    }
+
+    void Finalize() override
+    {
+        ConsoleReporter::Finalize();
+        std::printf("\n%-40s %-12s %s\n", "case", "peer", "peer time / qsp time");
+        for (const std::string& c : order_) {
+            const auto& byImpl = times_[c];
+            const auto ours = byImpl.find("qsp");
+            if (ours == byImpl.end()) continue;
+            for (const auto& [impl, t] : byImpl)
+                if (impl != "qsp") std::printf("%-40s %-12s %.3f\n", c.c_str(), impl.c_str(), t / ours->second);
+        }
+    }
+
+private:
+    std::map<std::string, std::map<std::string, double>> times_;
+    std::vector<std::string> order_;
+    std::set<std::string> seen_;
+};
+
+inline int runWithRatios(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+    return 0;
+}
+
+}  // namespace qspbench
+
+#define QSP_BENCH_MAIN() \
+    int main(int argc, char** argv) { return qspbench::runWithRatios(argc, argv); }

@@ -1,0 +1,150 @@
+// FFTFwd: the forward power-of-two FFT of every kind, and the real transforms into the packed spectra.
+#include "fft_transform.h"
+
+namespace y8 {
+
+using fft::C;
+
+QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC32fc, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsComplexCall<float, false>(rec, reinterpret_cast<const C<float>*>(pSrc), reinterpret_cast<C<float>*>(pDst),
+                                       fft::workOf<C<float>>(rec, pBuffer));
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_CToC_32fc(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC64fc, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsComplexCall<double, false>(rec, reinterpret_cast<const C<double>*>(pSrc),
+                                        reinterpret_cast<C<double>*>(pDst), fft::workOf<C<double>>(rec, pBuffer));
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_CToC_64fc(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm,
+                             const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC32f, pBuffer, pSrcRe, pSrcIm, pDstRe, pDstIm)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsSplitCall<float, false>(rec, pSrcRe, pSrcIm, pDstRe, pDstIm, fft::workOf<C<float>>(rec, pBuffer));
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_CToC_32f_I(Qsp32f* pSrcDstRe, Qsp32f* pSrcDstIm, const QspsFFTSpec_C_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_CToC_32f(pSrcDstRe, pSrcDstIm, pSrcDstRe, pSrcDstIm, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm,
+                             const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC64f, pBuffer, pSrcRe, pSrcIm, pDstRe, pDstIm)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsSplitCall<double, false>(rec, pSrcRe, pSrcIm, pDstRe, pDstIm, fft::workOf<C<double>>(rec, pBuffer));
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_CToC_64f_I(Qsp64f* pSrcDstRe, Qsp64f* pSrcDstIm, const QspsFFTSpec_C_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_CToC_64f(pSrcDstRe, pSrcDstIm, pSrcDstRe, pSrcDstIm, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC16fc, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsHalfCall<false>(rec, pSrc, pDst, rec->workSize > 0 ? fft::alignUp64(pBuffer) : nullptr);
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Pack);
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_RToPack_32f(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Perm);
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_RToPerm_32f(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Ccs);
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_RToCCS_32f(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Pack);
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_RToPack_64f(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Perm);
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_RToPerm_64f(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+QspStatus qspsFFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
+    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
+    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Ccs);
+    return qspStsOk;
+}
+
+QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
+{
+    return qspsFFTFwd_RToCCS_64f(pSrcDst, pSrcDst, pFFTSpec, pBuffer);
+}
+
+}  // namespace y8

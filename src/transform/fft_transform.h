@@ -1,0 +1,401 @@
+// The transform drivers shared by the forward and inverse families: entry
+// checks against the record, the choice of tier, normalisation, and the real
+// transforms' recombination and packed layouts.
+#pragma once
+#include "fft_record.h"
+#include "mathfn/half.h"
+#include "qsp_validators.h"
+
+#include <type_traits>
+
+namespace fft {
+
+// ---------------------------------------------------------------- checks
+
+// The record, its identifier, then the data pointers in parameter order,
+// then the work buffer when the record needs one.
+template <class... P>
+QspStatus checkCall(const void* spec, Kind kind, Qsp8u* work, const P*... data)
+{
+    if (spec == nullptr) return qspStsNullPtr;
+    const Record* rec = static_cast<const Record*>(spec);
+    if (rec->id != kind) return qspStsBadRecord;
+    if (((data == nullptr) || ...)) return qspStsNullPtr;
+    if (rec->workSize > 0 && work == nullptr) return qspStsNullPtr;
+    return qspStsOk;
+}
+
+// The work buffer as the kernels see it: aligned up to 64, or none.
+template <class T>
+inline T* workOf(const Record* rec, Qsp8u* work)
+{
+    return rec->workSize > 0 ? reinterpret_cast<T*>(alignUp64(work)) : nullptr;
+}
+
+template <class T>
+inline T factorOf(const Record* rec)
+{
+    if constexpr (sizeof(T) == 4)
+        return rec->factor.f;
+    else
+        return rec->factor.d;
+}
+
+template <bool Inv>
+inline bool normalises(const Record* rec)
+{
+    return (Inv ? rec->inverseNormalise : rec->forwardNormalise) != 0;
+}
+
+// ---------------------------------------------------------------- scaling
+
+inline void ownsScale(float* p, Qsp64s count, float f)
+{
+    // Counts are at most 2^29 floats here, within int.
+    y8::qspsMulC_32f_I(f, p, static_cast<int>(count));
+}
+
+inline void ownsScale(double* p, Qsp64s count, double f)
+{
+    using V = simd::Vec<double>;
+    const auto c = V::splat(f);
+    Qsp64s i = 0;
+    for (; i + 2 <= count; i += 2) V::storeu(p + i, V::mul(V::loadu(p + i), c));
+    for (; i < count; ++i) p[i] *= f;
+}
+
+// ---------------------------------------------------------------- complex
+
+// One complex transform of 2^order values, src to dst (src may equal dst),
+// unscaled; work as the record's complex part needs it.
+template <class T, bool Inv>
+void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* tw)
+{
+    const Qsp64s n = Qsp64s(1) << order;
+    if (order <= kSmallMax)
+        kSmallKernels<T, Inv, false>[order](src, dst, T(1));
+    else if (order < largeFrom(sizeof(T) == 8))
+        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
+    else
+        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, halvesOf(dst, n), halvesOf(dst, n), work, order, tw,
+                             false, T(0));
+}
+
+// The interleaved complex kinds.
+template <class T, bool Inv>
+void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
+{
+    const int order = rec->order;
+    const Qsp64s n = Qsp64s(1) << order;
+    const bool scaled = normalises<Inv>(rec);
+    const T f = factorOf<T>(rec);
+    const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
+    if (order <= kSmallMax) {
+        // The straight-line kernels scale as they store.
+        if (scaled)
+            kSmallKernels<T, Inv, true>[order](src, dst, f);
+        else
+            kSmallKernels<T, Inv, false>[order](src, dst, T(1));
+    } else if (order < largeFrom(sizeof(T) == 8)) {
+        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
+        if (scaled) ownsScale(&dst->re, 2 * n, f);
+    } else {
+        // The large kernel applies the factor as it stores.
+        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, halvesOf(dst, n), halvesOf(dst, n), work, order, tw,
+                             scaled, f);
+    }
+}
+
+// The split kinds: real parts and imaginary parts in separate arrays.
+template <class T, bool Inv>
+void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, T* dstIm, C<T>* work)
+{
+    const int order = rec->order;
+    const Qsp64s n = Qsp64s(1) << order;
+    const bool scaled = normalises<Inv>(rec);
+    const T f = factorOf<T>(rec);
+    const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
+    if (order <= kSmallMax) {
+        C<T> buf[1 << kSmallMax];
+        for (Qsp64s i = 0; i < n; ++i) buf[i] = {srcRe[i], srcIm[i]};
+        if (scaled)
+            kSmallKernels<T, Inv, true>[order](buf, buf, f);
+        else
+            kSmallKernels<T, Inv, false>[order](buf, buf, T(1));
+        for (Qsp64s i = 0; i < n; ++i) {
+            dstRe[i] = buf[i].re;
+            dstIm[i] = buf[i].im;
+        }
+        return;
+    }
+    // The destination arrays serve as the second buffer of N values (real
+    // array = first half, imaginary array = second half); the result is
+    // gathered in the work buffer and split from there.
+    const Halves<C<T>> dstPair{reinterpret_cast<C<T>*>(dstRe), reinterpret_cast<C<T>*>(dstIm)};
+    if (order < largeFrom(sizeof(T) == 8)) {
+        for (Qsp64s i = 0; i < n; ++i) work[i] = {srcRe[i], srcIm[i]};
+        ownsFftMedium<T, Inv>({work, work + n / 2}, halvesOf(work, n), dstPair, order, tw);
+    } else {
+        ownsFftLarge<T, Inv>(SplitSource<T>{srcRe, srcIm}, dstPair, halvesOf(work, n), work, order, tw, false,
+                             T(0));
+    }
+    for (Qsp64s i = 0; i < n; ++i) {
+        dstRe[i] = work[i].re;
+        dstIm[i] = work[i].im;
+    }
+    if (scaled) {
+        ownsScale(dstRe, n, f);
+        ownsScale(dstIm, n, f);
+    }
+}
+
+// Half precision: converted into 32-bit complex values in the part of the
+// work buffer behind the single-precision work, transformed there in
+// place, and converted back. Orders 0..5 use a stack copy.
+template <bool Inv>
+void ownsHalfCall(const Record* rec, const Qsp16fc* src, Qsp16fc* dst, Qsp8u* workAligned)
+{
+    const Qsp64s n = Qsp64s(1) << rec->order;
+    C<float> small[1 << kSmallMax];
+    C<float>* copy = rec->order <= kSmallMax ? small : reinterpret_cast<C<float>*>(workAligned + rec->workSize);
+    for (Qsp64s i = 0; i < n; ++i) copy[i] = {mathfn::halfToFloat(src[i].re), mathfn::halfToFloat(src[i].im)};
+    ownsComplexCall<float, Inv>(rec, copy, copy, reinterpret_cast<C<float>*>(workAligned));
+    for (Qsp64s i = 0; i < n; ++i) dst[i] = {mathfn::floatToHalf(copy[i].re), mathfn::floatToHalf(copy[i].im)};
+}
+
+// ---------------------------------------------------------------- real
+
+enum class Packed { Pack, Perm, Ccs };
+
+// W_N^k for the recombination (0 <= k < N/4), or conj(W_N^k) from the
+// inverse table.
+template <class T>
+inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s n)
+{
+    if (!rec->recombSplit) return table[k];
+    // coarse[k / 1024] * fine[k % 1024], exact products in double.
+    const C<T>* fine = table + (n >> 12);
+    const C<T> a = table[k >> 10], b = fine[k & 1023];
+    const double re = double(a.re) * double(b.re) - double(a.im) * double(b.im);
+    const double im = double(a.re) * double(b.im) + double(a.im) * double(b.re);
+    return {T(re), T(im)};
+}
+
+// W_16^k, k < 16: the recombination twiddles of the orders below 5, which
+// keep no tables (W_N^k = W_16^(16k/N)).
+template <class T>
+struct RealSmallTwiddles {
+    C<T> w[16];
+};
+
+template <class T>
+constexpr RealSmallTwiddles<T> makeRealSmallTwiddles()
+{
+    RealSmallTwiddles<T> t{};
+    for (int k = 0; k < 16; ++k) {
+        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 16.0);
+        t.w[k] = {T(sc.c), T(sc.s)};
+    }
+    return t;
+}
+
+template <class T>
+inline constexpr RealSmallTwiddles<T> kRealSmall = makeRealSmallTwiddles<T>();
+
+// The recombination twiddle of bin k: W_N^k (forward) or conj(W_N^k)
+// (inverse), from the record's tables or, below order 5, the built-in ones.
+template <class T, bool Inv>
+inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
+{
+    const Qsp64s n = Qsp64s(1) << order;
+    if (order < 5) {
+        const C<T> w = kRealSmall<T>.w[k << (4 - order)];
+        return Inv ? C<T>{w.re, -w.im} : w;
+    }
+    return recombTwiddle<T>(rec, static_cast<const C<T>*>(Inv ? rec->recombInv : rec->recomb), k, n);
+}
+
+// Bins k (ascending, L at a time) and their mirrors N/2 - k (descending) in
+// registers, while both groups stay on their side of N/4; returns the first
+// bin left for the scalar loop. Only for whole tables (not coarse + fine).
+template <class T, bool Inv>
+Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quarter)
+{
+    using K = SV<T>;
+    using V = typename K::V;
+    using X = typename K::X;
+    constexpr Qsp64s L = K::L;
+    const auto halfSplat = V::splat(T(0.5));
+    Qsp64s k = 1;
+    for (; k + L <= quarter; k += L) {
+        C<T>* pk = z + k;
+        C<T>* pm = z + (half - k - (L - 1));
+        const X a = K::template load<true>(pk);
+        X b = K::template load<true>(pm);
+        b = {V::reverse(b.re), V::reverse(b.im)};
+        const X w = K::template load<true>(table + k);
+        X r, m;
+        if constexpr (!Inv) {
+            // E = (Zk + conj Zm)/2, O = -i (Zk - conj Zm)/2, Xk = E + W O, Xm = conj(E - W O)
+            const X e{V::mul(V::add(a.re, b.re), halfSplat), V::mul(V::sub(a.im, b.im), halfSplat)};
+            const X o{V::mul(V::add(a.im, b.im), halfSplat), V::mul(V::sub(b.re, a.re), halfSplat)};
+            const X wo = K::template mul<false>(o, w);
+            r = K::add(e, wo);
+            m = {V::sub(e.re, wo.re), V::sub(wo.im, e.im)};
+        } else {
+            // E = Xk + conj Xm, O = (Xk - conj Xm) w, Zk = E + i O, Zm = conj(E - i O)
+            const X e{V::add(a.re, b.re), V::sub(a.im, b.im)};
+            const X o = K::template mul<false>(X{V::sub(a.re, b.re), V::add(a.im, b.im)}, w);
+            r = {V::sub(e.re, o.im), V::add(e.im, o.re)};
+            m = {V::add(e.re, o.im), V::sub(o.re, e.im)};
+        }
+        K::template store<true>(pk, r);
+        K::template store<true>(pm, X{V::reverse(m.re), V::reverse(m.im)});
+    }
+    return k;
+}
+
+// One bin pair of the forward recombination: from Zk and Zm = Z(N/2-k),
+// E = (Zk + conj Zm)/2, O = -i (Zk - conj Zm)/2, Xk = E + W O and
+// X(N/2-k) = conj(E - W O).
+template <class T>
+inline void recombineBinForward(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
+{
+    const C<T> zk = z[k], zm = z[half - k];
+    const C<T> e{(zk.re + zm.re) * T(0.5), (zk.im - zm.im) * T(0.5)};
+    const C<T> o{(zk.im + zm.im) * T(0.5), (zm.re - zk.re) * T(0.5)};
+    const C<T> wo{o.re * w.re - o.im * w.im, o.re * w.im + o.im * w.re};
+    z[k] = {e.re + wo.re, e.im + wo.im};
+    z[half - k] = {e.re - wo.re, wo.im - e.im};
+}
+
+// One bin pair of the inverse: E = Xk + conj Xm, O = (Xk - conj Xm) w with
+// w = conj(W^k); Zk = E + i O, Zm = conj(E - i O) (twice the forward Z).
+template <class T>
+inline void recombineBinInverse(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
+{
+    const C<T> xk = z[k], xm = z[half - k];
+    const C<T> e{xk.re + xm.re, xk.im - xm.im};
+    const C<T> dlt{xk.re - xm.re, xk.im + xm.im};
+    const C<T> o{dlt.re * w.re - dlt.im * w.im, dlt.re * w.im + dlt.im * w.re};
+    z[k] = {e.re - o.im, e.im + o.re};
+    z[half - k] = {e.re + o.im, o.re - e.im};
+}
+
+// Z (the half-length transform of x[2m] + i*x[2m+1]) to the spectrum X in
+// Perm layout, in place. Bin 0 gives R0 and R(N/2); bin N/4 is conj(Z).
+template <class T, int SmallOrder = -1>
+void ownsRecombineForward(const Record* rec, T* d, int order)
+{
+    if constexpr (SmallOrder >= 0) order = SmallOrder;
+    const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
+    C<T>* z = reinterpret_cast<C<T>*>(d);
+    const T a = z[0].re, b = z[0].im;
+    z[0] = {a + b, a - b};
+    if (n < 4) return;
+    Qsp64s k = 1;
+    if (SmallOrder < 0 && !rec->recombSplit)
+        k = ownsRecombineVector<T, false>(z, static_cast<const C<T>*>(rec->recomb), half, quarter);
+    for (; k < quarter; ++k) recombineBinForward(z, k, half, realTwiddle<T, false>(rec, k, order));
+    z[quarter].im = -z[quarter].im;
+}
+
+// X in Perm layout (in place) to 2*Z, whose half-length inverse transform
+// is N times x.
+template <class T, int SmallOrder = -1>
+void ownsRecombineInverse(const Record* rec, T* d, int order)
+{
+    if constexpr (SmallOrder >= 0) order = SmallOrder;
+    const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
+    C<T>* z = reinterpret_cast<C<T>*>(d);
+    const T r0 = z[0].re, rh = z[0].im;
+    z[0] = {r0 + rh, r0 - rh};
+    if (n < 4) return;
+    Qsp64s k = 1;
+    if (SmallOrder < 0 && !rec->recombSplit)
+        k = ownsRecombineVector<T, true>(z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
+    for (; k < quarter; ++k) recombineBinInverse(z, k, half, realTwiddle<T, true>(rec, k, order));
+    z[quarter] = {T(2) * z[quarter].re, T(-2) * z[quarter].im};
+}
+
+// The recombination by order: orders 1..4 unrolled with built-in twiddles.
+template <class T, bool Inv>
+void ownsRecombine(const Record* rec, T* d, int order)
+{
+    auto pick = [&](auto smallOrder) {
+        constexpr int o = decltype(smallOrder)::value;
+        if constexpr (Inv)
+            ownsRecombineInverse<T, o>(rec, d, o);
+        else
+            ownsRecombineForward<T, o>(rec, d, o);
+    };
+    switch (order) {
+    case 1: pick(std::integral_constant<int, 1>{}); return;
+    case 2: pick(std::integral_constant<int, 2>{}); return;
+    case 3: pick(std::integral_constant<int, 3>{}); return;
+    case 4: pick(std::integral_constant<int, 4>{}); return;
+    default:
+        if constexpr (Inv)
+            ownsRecombineInverse<T>(rec, d, order);
+        else
+            ownsRecombineForward<T>(rec, d, order);
+    }
+}
+
+template <class T>
+void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
+{
+    const int order = rec->order;
+    const Qsp64s n = Qsp64s(1) << order;
+    if (order == 0) {
+        dst[0] = rec->forwardNormalise ? src[0] * factorOf<T>(rec) : src[0];
+    } else {
+        ownsComplex<T, false>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
+                              static_cast<const C<T>*>(rec->twiddles));
+        if (rec->forwardNormalise) ownsScale(dst, n, factorOf<T>(rec));
+        ownsRecombine<T, false>(rec, dst, order);
+    }
+    if (layout == Packed::Pack && n >= 4) {
+        const T nyquist = dst[1];
+        for (Qsp64s i = 1; i < n - 1; ++i) dst[i] = dst[i + 1];
+        dst[n - 1] = nyquist;
+    } else if (layout == Packed::Ccs) {
+        if (n >= 2) {
+            dst[n] = dst[1];
+            dst[n + 1] = T(0);
+        }
+        dst[1] = T(0);
+    }
+}
+
+template <class T>
+void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
+{
+    const int order = rec->order;
+    const Qsp64s n = Qsp64s(1) << order;
+    if (order == 0) {
+        dst[0] = rec->inverseNormalise ? src[0] * factorOf<T>(rec) : src[0];
+        return;
+    }
+    // Bring the packed spectrum into Perm layout in the destination.
+    if (layout == Packed::Pack) {
+        const T nyquist = src[n - 1];
+        for (Qsp64s i = n - 1; i >= 2; --i) dst[i] = src[i - 1];
+        dst[1] = nyquist;
+        dst[0] = src[0];
+    } else if (layout == Packed::Ccs) {
+        const T nyquist = src[n];
+        dst[0] = src[0];
+        if (src != dst)
+            for (Qsp64s i = 2; i < n; ++i) dst[i] = src[i];
+        dst[1] = nyquist;
+    } else if (src != dst) {
+        for (Qsp64s i = 0; i < n; ++i) dst[i] = src[i];
+    }
+    ownsRecombine<T, true>(rec, dst, order);
+    C<T>* z = reinterpret_cast<C<T>*>(dst);
+    ownsComplex<T, true>(z, z, work, order - 1, static_cast<const C<T>*>(rec->twiddles));
+    if (rec->inverseNormalise) ownsScale(dst, n, factorOf<T>(rec));
+}
+
+}  // namespace fft

@@ -1,0 +1,65 @@
+#include "fft_kinds.h"
+
+using namespace fftkinds;
+using fftref::LC;
+
+namespace {
+
+// Scale of the flag for a direction: 1, 1/N or 1/sqrt(N).
+long double flagScale(int flag, bool inverse, int order)
+{
+    const long double n = (long double)(1LL << order);
+    if (flag == 4) return 1.0L / sqrtl(n);
+    if ((flag == 1 && !inverse) || (flag == 2 && inverse)) return 1.0L / n;
+    return 1.0L;
+}
+
+void checkOrder(K k, int order, int flag, bool inverse, bool report = false)
+{
+    const size_t n = size_t(1) << order;
+    const auto& c = fftref::cached(order, false);
+    const auto& x = c.x;
+    auto ref = inverse ? c.inverse : c.forward;
+    const long double sc = flagScale(flag, inverse, order);
+    for (auto& v : ref) v *= sc;
+    Built b = build(k, order, flag);
+    const auto out = run(k, inverse, b, x, false);
+    const auto outI = run(k, inverse, b, x, true);
+    const double err = fftref::relRms(ref, [&](size_t i) { return out[i]; });
+    // Half precision stores its result in half: rounding the output alone
+    // costs up to 2^-11 relative, so its bound is that of the 16-bit format.
+    const double bound = k == K::C16fc ? 2e-3 : fftref::bound(isDouble(k), order);
+    EXPECT_LE(err, bound) << name(k) << " order " << order << " flag " << flag << (inverse ? " inverse" : " forward");
+    for (size_t i = 0; i < n; ++i) {
+        ASSERT_TRUE(out[i] == outI[i]) << name(k) << " in place differs at order " << order << " index " << i;
+    }
+    if (report) printf("  %s %s order %2d: relative RMS error %.3g (bound %.3g)\n", name(k), inverse ? "inv" : "fwd", order, err, bound);
+}
+
+}  // namespace
+
+// One test program run for every kind, so that the reference transforms
+// (long double, up to order 20) are computed once.
+TEST(FFTAccuracy, EveryKindEveryOrderFlagAndDirection)
+{
+    for (int order = 0; order <= 20; ++order) {
+        checkOrder(K::C32fc, order, 8, false, true);
+        checkOrder(K::C32fc, order, 8, true, true);
+        checkOrder(K::C64fc, order, 8, false, true);
+        checkOrder(K::C64fc, order, 8, true, true);
+        checkOrder(K::C32f, order, 8, false);
+        checkOrder(K::C32f, order, 8, true);
+        checkOrder(K::C64f, order, 8, false);
+        checkOrder(K::C64f, order, 8, true);
+        // Flag 4 keeps the values of size 1, where half precision is accurate.
+        checkOrder(K::C16fc, order, 4, false);
+        checkOrder(K::C16fc, order, 4, true);
+    }
+    qspSetFlushToZero(0, nullptr);
+    qspSetDenormAreZeros(0, nullptr);
+    // Every flag at the tier boundaries and a few orders between.
+    for (K k : {K::C32fc, K::C32f, K::C64fc, K::C64f})
+        for (int flag : {1, 2, 4, 8})
+            for (int order : {0, 3, 5, 6, 9, 12, 16, 17, 18})
+                for (bool inverse : {false, true}) checkOrder(k, order, flag, inverse);
+}
