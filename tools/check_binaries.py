@@ -105,8 +105,9 @@ def check_jumps(qspsy8):
     for name, block in functions:
         insns = [l.split('\t', 1)[1].strip() for l in block.splitlines() if '\t' in l]
         insns = [i for i in insns if not i.startswith(('nop', 'xchg   %ax,%ax', 'cs nop', 'data16'))]
-        # Widening of small arguments: in registers, or on the stack (loaded,
-        # extended and stored back in place).
+        # Widening: sign or zero extension in registers, and for a 16-bit
+        # argument passed on the stack (the seventh and later) its widened
+        # value stored back into the argument slot.
         widen = [i for i in insns[:-1]
                  if re.match(r'^mov[sz][bw]l\s', i) or re.match(r'^mov\s+%e\w+,0x[0-9a-f]+\(%rsp\)$', i)]
         last = insns[-1] if insns else ''

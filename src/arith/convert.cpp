@@ -192,6 +192,35 @@ QspStatus qspsConvert_32s64f(const Qsp32s* pSrc, Qsp64f* pDst, int len) { return
 QspStatus qspsConvert_32f64f(const Qsp32f* pSrc, Qsp64f* pDst, int len) { return plain(pSrc, pDst, len); }
 QspStatus qspsConvert_64f32f(const Qsp64f* pSrc, Qsp32f* pDst, int len) { return plain(pSrc, pDst, len); }
 QspStatus qspsConvert_64s64f(const Qsp64s* pSrc, Qsp64f* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_8u16u(const Qsp8u* pSrc, Qsp16u* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_8u16s(const Qsp8u* pSrc, Qsp16s* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_16u32u(const Qsp16u* pSrc, Qsp32u* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_16u32s(const Qsp16u* pSrc, Qsp32s* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_32s64s(const Qsp32s* pSrc, Qsp64s* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_32u64u(const Qsp32u* pSrc, Qsp64u* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_32u32f(const Qsp32u* pSrc, Qsp32f* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_32u64f(const Qsp32u* pSrc, Qsp64f* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_64u64f(const Qsp64u* pSrc, Qsp64f* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_64s32f(const Qsp64s* pSrc, Qsp32f* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_16u64f(const Qsp16u* pSrc, Qsp64f* pDst, int len) { return plain(pSrc, pDst, len); }
+QspStatus qspsConvert_16s8u(const Qsp16s* pSrc, Qsp8u* pDst, int len)
+{
+    return each(pSrc, pDst, len, [](Qsp16s x) { return scaling::saturate<Qsp8u>(x); });
+}
+
+// Complex elements convert part by part.
+template <class S, class D>
+QspStatus complexParts(const S* pSrc, D* pDst, int len)
+{
+    using P = ops::Part<D>;
+    return each(pSrc, pDst, len, [](S x) { return D{P(x.re), P(x.im)}; });
+}
+QspStatus qspsConvert_16sc32sc(const Qsp16sc* pSrc, Qsp32sc* pDst, int len) { return complexParts(pSrc, pDst, len); }
+QspStatus qspsConvert_16sc32fc(const Qsp16sc* pSrc, Qsp32fc* pDst, int len) { return complexParts(pSrc, pDst, len); }
+QspStatus qspsConvert_32sc64fc(const Qsp32sc* pSrc, Qsp64fc* pDst, int len) { return complexParts(pSrc, pDst, len); }
+QspStatus qspsConvert_32fc64fc(const Qsp32fc* pSrc, Qsp64fc* pDst, int len) { return complexParts(pSrc, pDst, len); }
+QspStatus qspsConvert_64fc32fc(const Qsp64fc* pSrc, Qsp32fc* pDst, int len) { return complexParts(pSrc, pDst, len); }
+
 QspStatus qspsConvert_16f32f(const Qsp16f* pSrc, Qsp32f* pDst, int len) { return each(pSrc, pDst, len, half::toFloat); }
 
 QspStatus qspsConvert_24u32u(const Qsp8u* pSrc, Qsp32u* pDst, int len) { return from24(pSrc, pDst, len, load24u); }

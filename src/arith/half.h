@@ -1,8 +1,10 @@
-// IEEE half precision (binary16) held as its bit pattern: exact widening
-// to single precision, and narrowing from single precision in one of the
-// three rounding modes. Written with integer and single-precision
-// arithmetic only (no conversion instructions are assumed).
+// IEEE half precision (binary16) held as its bit pattern: narrowing from
+// single precision in any of the three rounding modes (the shared
+// conversion in mathfn/half.h rounds to nearest only), and its exact
+// widening. Integer and single-precision arithmetic only (the instruction
+// set has no half-precision conversions).
 #pragma once
+#include "mathfn/half.h"
 #include "qspdefs.h"
 #include "rounding.h"
 
@@ -11,19 +13,8 @@ namespace half {
 inline Qsp32f bitsToFloat(Qsp32u b) { return __builtin_bit_cast(Qsp32f, b); }
 inline Qsp32u floatToBits(Qsp32f f) { return __builtin_bit_cast(Qsp32u, f); }
 
-// Exact: normal values move their exponent, subnormal ones are the
-// integer significand times 2^-24, infinities and NaNs keep their payload.
-inline Qsp32f toFloat(Qsp16f h)
-{
-    const Qsp32u sign = Qsp32u(h & 0x8000u) << 16;
-    const Qsp32u exp = (h >> 10) & 0x1Fu, mant = h & 0x3FFu;
-    if (exp == 0x1F) return bitsToFloat(sign | 0x7F800000u | (mant << 13));
-    if (exp == 0) {
-        const Qsp32f v = Qsp32f(mant) * 0x1p-24f;
-        return bitsToFloat(sign | floatToBits(v));
-    }
-    return bitsToFloat(sign | ((exp + 112) << 23) | (mant << 13));
-}
+// Widening is exact: the shared software conversion.
+inline Qsp32f toFloat(Qsp16f h) { return mathfn::halfToFloat(h); }
 
 // |x| rounded to an integer count of units in mode M (the count is at most
 // 2^12, so single precision holds it and its fraction exactly).

@@ -273,7 +273,8 @@ struct Vec<Qsp16s> : IntRegOps {
     static Reg cmplt(Reg a, Reg b) { return _mm_cmplt_epi16(a, b); }
     static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi16(a, b); }
     static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_epi16(a, b); }
-    static Reg abs(Reg a) { return _mm_abs_epi16(a); }  // -32768 stays -32768
+    // Magnitudes as unsigned lanes: -32768 keeps its pattern, 32768.
+    static Reg abs(Reg a) { return _mm_abs_epi16(a); }
     static Reg neg(Reg a) { return _mm_sub_epi16(_mm_setzero_si128(), a); }
     static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
     static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }

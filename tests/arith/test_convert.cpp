@@ -331,3 +331,52 @@ TEST(Convert, HalfPrecision)
         }
     }
 }
+
+TEST(Convert, MoreWideningAndComplexConversions)
+{
+    expectChecks(qspsConvert_8u16u);
+    expectChecks(qspsConvert_8u16s);
+    expectChecks(qspsConvert_16u32u);
+    expectChecks(qspsConvert_16u32s);
+    expectChecks(qspsConvert_32s64s);
+    expectChecks(qspsConvert_32u64u);
+    expectChecks(qspsConvert_32u32f);
+    expectChecks(qspsConvert_32u64f);
+    expectChecks(qspsConvert_64u64f);
+    expectChecks(qspsConvert_64s32f);
+    expectChecks(qspsConvert_16u64f);
+    expectChecks(qspsConvert_16s8u);
+    expectChecks(qspsConvert_16sc32sc);
+    expectChecks(qspsConvert_16sc32fc);
+    expectChecks(qspsConvert_32sc64fc);
+    expectChecks(qspsConvert_32fc64fc);
+    expectChecks(qspsConvert_64fc32fc);
+    auto exact = [](auto fn, auto s, auto d) {
+        using S = decltype(s);
+        using D = decltype(d);
+        arithsweep::unary<S, D>(fn, [](S a, D got) { return equals(got, D(a)); });
+    };
+    exact(qspsConvert_8u16u, Qsp8u{}, Qsp16u{});
+    exact(qspsConvert_8u16s, Qsp8u{}, Qsp16s{});
+    exact(qspsConvert_16u32u, Qsp16u{}, Qsp32u{});
+    exact(qspsConvert_16u32s, Qsp16u{}, Qsp32s{});
+    exact(qspsConvert_32s64s, Qsp32s{}, Qsp64s{});
+    exact(qspsConvert_32u64u, Qsp32u{}, Qsp64u{});
+    exact(qspsConvert_32u64f, Qsp32u{}, Qsp64f{});
+    exact(qspsConvert_16u64f, Qsp16u{}, Qsp64f{});
+    arithsweep::unary<Qsp32u, Qsp32f>(qspsConvert_32u32f, [](Qsp32u a, Qsp32f got) { return arithsweep::withinUlps(got, LD(a), 0.5); });
+    arithsweep::unary<Qsp64u, Qsp64f>(qspsConvert_64u64f, [](Qsp64u a, Qsp64f got) { return arithsweep::withinUlps(got, LD(a), 0.5); });
+    arithsweep::unary<Qsp64s, Qsp32f>(qspsConvert_64s32f, [](Qsp64s a, Qsp32f got) { return arithsweep::withinUlps(got, LD(a), 0.5); });
+    arithsweep::unary<Qsp16s, Qsp8u>(qspsConvert_16s8u, [](Qsp16s a, Qsp8u got) { return equals(got, arithref::scaled<Qsp8u>(a, 0)); });
+    auto parts = [](auto fn, auto s, auto d) {
+        using S = decltype(s);
+        using D = decltype(d);
+        using P = decltype(D{}.re);
+        arithsweep::unary<S, D>(fn, [](S a, D got) { return equals(got, D{P(a.re), P(a.im)}); });
+    };
+    parts(qspsConvert_16sc32sc, Qsp16sc{}, Qsp32sc{});
+    parts(qspsConvert_16sc32fc, Qsp16sc{}, Qsp32fc{});
+    parts(qspsConvert_32sc64fc, Qsp32sc{}, Qsp64fc{});
+    parts(qspsConvert_32fc64fc, Qsp32fc{}, Qsp64fc{});
+    parts(qspsConvert_64fc32fc, Qsp64fc{}, Qsp32fc{});
+}

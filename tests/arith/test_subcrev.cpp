@@ -1,89 +1,19 @@
-// SubCRev: every element subtracted from a constant, in every form: floating (correctly rounded), scaled
-// integer (the exact rule at every scale factor from -40 to 40), complex
-// part-wise, and the 64-bit length forms.
-#include "arith_families.h"
+// SubCRev: every element subtracted from a constant, in every form: floating (correctly
+// rounded), scaled integer (the exact rule at every scale factor from -40 to
+// 40), complex part-wise, and the 64-bit length forms.
+#include "arith_const_family.h"
 
 using namespace arithfam;
-using arithchecks::expectChecks;
 
 namespace {
-// The exact result of the operation on one part.
+const constfamily::Rows rows = QSP_CONST_ROWS(SubCRev);
 auto exact = [](auto x, auto c) { return i128(c) - i128(x); };
 auto real = [](auto x, auto c) { return LD(c) - LD(x); };
-auto cplx = [](auto x, auto c) { return LDC(real(x.re, c.re), real(x.im, c.im)); };
-
-template <class S>
-auto scaledPart(S x, S c, int sf)
-{
-    return arithref::scaled<S>(exact(x, c), sf);
-}
-auto scaled16sc = [](Qsp16sc x, Qsp16sc c, int sf) {
-    return Qsp16sc{scaledPart<Qsp16s>(x.re, c.re, sf), scaledPart<Qsp16s>(x.im, c.im, sf)};
-};
-auto scaled32sc = [](Qsp32sc x, Qsp32sc c, int sf) {
-    return Qsp32sc{scaledPart<Qsp32s>(x.re, c.re, sf), scaledPart<Qsp32s>(x.im, c.im, sf)};
-};
 }  // namespace
 
-TEST(SubCRev, ArgumentChecks)
-{
-    expectChecks(qspsSubCRev_32f, 1.0f);
-    expectChecks(qspsSubCRev_32f_I, 1.0f);
-    expectChecks(qspsSubCRev_64f, 1.0);
-    expectChecks(qspsSubCRev_64f_I, 1.0);
-    expectChecks(qspsSubCRev_32fc, Qsp32fc{1, 2});
-    expectChecks(qspsSubCRev_32fc_I, Qsp32fc{1, 2});
-    expectChecks(qspsSubCRev_64fc, Qsp64fc{1, 2});
-    expectChecks(qspsSubCRev_64fc_I, Qsp64fc{1, 2});
-    for (int sf : {0, 1, 5, 40, -5, -40}) {
-        expectChecks(qspsSubCRev_8u_Sfs, Qsp8u(3), sf);
-        expectChecks(qspsSubCRev_8u_ISfs, Qsp8u(3), sf);
-        expectChecks(qspsSubCRev_16s_Sfs, Qsp16s(3), sf);
-        expectChecks(qspsSubCRev_16s_ISfs, Qsp16s(3), sf);
-        expectChecks(qspsSubCRev_16u_Sfs, Qsp16u(3), sf);
-        expectChecks(qspsSubCRev_16u_ISfs, Qsp16u(3), sf);
-        expectChecks(qspsSubCRev_32s_Sfs, 3, sf);
-        expectChecks(qspsSubCRev_32s_ISfs, 3, sf);
-        expectChecks(qspsSubCRev_16sc_Sfs, Qsp16sc{3, 4}, sf);
-        expectChecks(qspsSubCRev_16sc_ISfs, Qsp16sc{3, 4}, sf);
-        expectChecks(qspsSubCRev_32sc_Sfs, Qsp32sc{3, 4}, sf);
-        expectChecks(qspsSubCRev_32sc_ISfs, Qsp32sc{3, 4}, sf);
-    }
-    expectChecks(qspsSubCRev_32f_L, 1.0f);
-    expectChecks(qspsSubCRev_32f_I_L, 1.0f);
-    expectChecks(qspsSubCRev_64f_L, 1.0);
-    expectChecks(qspsSubCRev_64f_I_L, 1.0);
-    expectChecks(qspsSubCRev_32fc_L, Qsp32fc{1, 2});
-    expectChecks(qspsSubCRev_32fc_I_L, Qsp32fc{1, 2});
-    expectChecks(qspsSubCRev_64fc_L, Qsp64fc{1, 2});
-    expectChecks(qspsSubCRev_64fc_I_L, Qsp64fc{1, 2});
-}
-
-TEST(SubCRev, ScaledIntegersAreExactAtEveryScaleFactor)
-{
-    sfsC(qspsSubCRev_8u_Sfs, scaledPart<Qsp8u>, qspsSubCRev_8u_ISfs);
-    sfsC(qspsSubCRev_16s_Sfs, scaledPart<Qsp16s>, qspsSubCRev_16s_ISfs);
-    sfsC(qspsSubCRev_16u_Sfs, scaledPart<Qsp16u>, qspsSubCRev_16u_ISfs);
-    sfsC(qspsSubCRev_32s_Sfs, scaledPart<Qsp32s>, qspsSubCRev_32s_ISfs);
-    sfsC(qspsSubCRev_16sc_Sfs, scaled16sc, qspsSubCRev_16sc_ISfs);
-    sfsC(qspsSubCRev_32sc_Sfs, scaled32sc, qspsSubCRev_32sc_ISfs);
-}
-
-TEST(SubCRev, FloatingResultsAreCorrectlyRounded)
-{
-    floatC<Qsp32f>(qspsSubCRev_32f, real, 0.5, qspsSubCRev_32f_I);
-    floatC<Qsp64f>(qspsSubCRev_64f, real, kHalfUlp, qspsSubCRev_64f_I);
-    floatC<Qsp32fc>(qspsSubCRev_32fc, cplx, 0.5, qspsSubCRev_32fc_I);
-    floatC<Qsp64fc>(qspsSubCRev_64fc, cplx, kHalfUlp, qspsSubCRev_64fc_I);
-}
-
-TEST(SubCRev, LongLengthFormsEqualTheOrdinaryOnes)
-{
-    floatC<Qsp32f>(viaL(qspsSubCRev_32f_L), real, 0.5, viaL(qspsSubCRev_32f_I_L));
-    floatC<Qsp64f>(viaL(qspsSubCRev_64f_L), real, kHalfUlp, viaL(qspsSubCRev_64f_I_L));
-    floatC<Qsp32fc>(viaL(qspsSubCRev_32fc_L), cplx, 0.5, viaL(qspsSubCRev_32fc_I_L));
-    floatC<Qsp64fc>(viaL(qspsSubCRev_64fc_L), cplx, kHalfUlp, viaL(qspsSubCRev_64fc_I_L));
-}
+TEST(SubCRev, ArgumentChecks) { constfamily::argumentChecks(rows); }
+TEST(SubCRev, ScaledIntegersAreExactAtEveryScaleFactor) { constfamily::scaledIntegers(rows, exact); }
+TEST(SubCRev, FloatingResultsAndLongLengthForms) { constfamily::floatingAndLongForms(rows, real); }
 
 TEST(SubCRev, OperandOrder)
 {
