@@ -55,6 +55,12 @@ void radixSort(benchmark::State& state)
     run<T>(state, [&](std::vector<T>& v) { Fn(v.data(), int(v.size()), buffer.data()); });
 }
 
+template <class T, QspStatus (*Fn)(T*, int)>
+void comparisonSort(benchmark::State& state)
+{
+    run<T>(state, [](std::vector<T>& v) { Fn(v.data(), int(v.size())); });
+}
+
 constexpr int kLen = 1 << 20;
 
 }  // namespace
@@ -73,5 +79,9 @@ BENCHMARK(stdSort<Qsp16s>)->Name("std_sort/16s")->Arg(kLen)->Unit(benchmark::kMi
 BENCHMARK(radixSort<Qsp16s, qspsSortRadixAscend_16s_I, qsp16s>)->Name("radix_ascend/16s")->Arg(kLen)->Unit(benchmark::kMillisecond);
 BENCHMARK(stdSort<Qsp8u>)->Name("std_sort/8u")->Arg(kLen)->Unit(benchmark::kMillisecond);
 BENCHMARK(radixSort<Qsp8u, qspsSortRadixAscend_8u_I, qsp8u>)->Name("radix_ascend/8u")->Arg(kLen)->Unit(benchmark::kMillisecond);
+
+// The library's comparison sort (no buffer) on the same data.
+BENCHMARK(comparisonSort<Qsp32f, qspsSortAscend_32f_I>)->Name("sort_ascend/32f")->Arg(kLen)->Unit(benchmark::kMillisecond);
+BENCHMARK(comparisonSort<Qsp64f, qspsSortAscend_64f_I>)->Name("sort_ascend/64f")->Arg(kLen)->Unit(benchmark::kMillisecond);
 
 BENCHMARK_MAIN();

@@ -37,8 +37,9 @@ struct Differences {
     const void* base() const { return a; }
 };
 
-// What is summed of each element: itself, its magnitude, or its square.
-enum class Term { Value, Magnitude, Square };
+// What is summed of each element: itself, its magnitude, or its square
+// (None: no second sum).
+enum class Term { Value, Magnitude, Square, None };
 
 template <Term M, class V>
 typename V::Reg term(typename V::Reg r)
@@ -93,31 +94,56 @@ inline Qsp64s headToBoundary(const void* p, Qsp64s bytes, Qsp64s parts, Qsp64s c
 
 constexpr Qsp64s kFastBlock = 32768;
 
-template <int P, Term M, class Src>
-void ownsSumFast_32f(Src src, Qsp64s count, double* total)
+// Folds four registers of single lanes as the fast scheme does and adds
+// the block value to the double totals.
+template <int P>
+void foldFastBlock(__m128 a0, __m128 a1, __m128 a2, __m128 a3, double* total)
 {
     using V = simd::Vec<float>;
+    alignas(16) float s[4];
+    V::store(s, V::add(V::add(a0, a1), V::add(a2, a3)));
+    if constexpr (P == 1) {
+        total[0] += double((s[0] + s[2]) + (s[1] + s[3]));
+    } else {
+        total[0] += double(s[0] + s[2]);
+        total[1] += double(s[1] + s[3]);
+    }
+}
+
+// With a second term M2, a second sum (of M2 terms, into total2) is formed
+// in the same pass, in the same order.
+template <int P, Term M, Term M2 = Term::None, class Src>
+void ownsSumFast_32f(Src src, Qsp64s count, double* total, double* total2 = nullptr)
+{
+    using V = simd::Vec<float>;
+    constexpr bool two = M2 != Term::None;
+    auto one = [&](Qsp64s i) {
+        total[i % P] += double(term<M>(src.at(i)));
+        if constexpr (two) total2[i % P] += double(term<M2>(src.at(i)));
+    };
     Qsp64s i = 0;
     const Qsp64s head = headToBoundary(src.base(), 4, P, count);
-    for (; i < head; ++i) total[i % P] += double(term<M>(src.at(i)));
+    for (; i < head; ++i) one(i);
     while (i < count) {
         const Qsp64s end = count - i < kFastBlock ? count : i + kFastBlock;
         auto a0 = V::zero(), a1 = a0, a2 = a0, a3 = a0;
+        auto b0 = V::zero(), b1 = b0, b2 = b0, b3 = b0;
         for (; i + 16 <= end; i += 16) {
-            a0 = V::add(a0, term<M, V>(src.load(i)));
-            a1 = V::add(a1, term<M, V>(src.load(i + 4)));
-            a2 = V::add(a2, term<M, V>(src.load(i + 8)));
-            a3 = V::add(a3, term<M, V>(src.load(i + 12)));
+            const auto x0 = src.load(i), x1 = src.load(i + 4), x2 = src.load(i + 8), x3 = src.load(i + 12);
+            a0 = V::add(a0, term<M, V>(x0));
+            a1 = V::add(a1, term<M, V>(x1));
+            a2 = V::add(a2, term<M, V>(x2));
+            a3 = V::add(a3, term<M, V>(x3));
+            if constexpr (two) {
+                b0 = V::add(b0, term<M2, V>(x0));
+                b1 = V::add(b1, term<M2, V>(x1));
+                b2 = V::add(b2, term<M2, V>(x2));
+                b3 = V::add(b3, term<M2, V>(x3));
+            }
         }
-        alignas(16) float s[4];
-        V::store(s, V::add(V::add(a0, a1), V::add(a2, a3)));
-        if constexpr (P == 1) {
-            total[0] += double((s[0] + s[2]) + (s[1] + s[3]));
-        } else {
-            total[0] += double(s[0] + s[2]);
-            total[1] += double(s[1] + s[3]);
-        }
-        for (; i < end; ++i) total[i % P] += double(term<M>(src.at(i)));
+        foldFastBlock<P>(a0, a1, a2, a3, total);
+        if constexpr (two) foldFastBlock<P>(b0, b1, b2, b3, total2);
+        for (; i < end; ++i) one(i);
     }
 }
 
@@ -156,27 +182,10 @@ struct Widened<double> {
     }
 };
 
-template <int P, Term M, class T, class Src>
-void ownsSumWide(Src src, Qsp64s count, double* total)
+template <int P>
+void foldWide(__m128d a0, __m128d a1, __m128d a2, __m128d a3, double* total)
 {
     using VD = simd::Vec<double>;
-    Qsp64s i = 0;
-    if constexpr (P == 1 && sizeof(T) == 4) {
-        if (reinterpret_cast<Qsp64u>(src.base()) % 8 == 4) {
-            total[0] += term<M>(double(src.at(0)));
-            i = 1;
-        }
-    }
-    const Qsp64s start = i;
-    auto a0 = VD::zero(), a1 = a0, a2 = a0, a3 = a0;
-    for (; i + 8 <= count; i += 8) {
-        __m128d r0, r1, r2, r3;
-        Widened<T>::load4(src, i, r0, r1, r2, r3);
-        a0 = VD::add(a0, term<M, VD>(r0));
-        a1 = VD::add(a1, term<M, VD>(r1));
-        a2 = VD::add(a2, term<M, VD>(r2));
-        a3 = VD::add(a3, term<M, VD>(r3));
-    }
     alignas(16) double t[2];
     VD::store(t, VD::add(VD::add(a0, a2), VD::add(a1, a3)));
     if constexpr (P == 1) {
@@ -185,11 +194,50 @@ void ownsSumWide(Src src, Qsp64s count, double* total)
         total[0] += t[0];
         total[1] += t[1];
     }
-    for (; i < count; ++i) total[(i - start) % P] += term<M>(double(src.at(i)));
 }
 
-// The sum and the sum of squares of one-part elements in one pass, by the
-// order of ownsSumFast_32f (Fast) or ownsSumWide (every other hint).
+// With a second term M2, a second sum (into total2) in the same pass and
+// order.
+template <int P, Term M, class T, Term M2 = Term::None, class Src>
+void ownsSumWide(Src src, Qsp64s count, double* total, double* total2 = nullptr)
+{
+    using VD = simd::Vec<double>;
+    constexpr bool two = M2 != Term::None;
+    Qsp64s i = 0;
+    if constexpr (P == 1 && sizeof(T) == 4) {
+        if (reinterpret_cast<Qsp64u>(src.base()) % 8 == 4) {
+            total[0] += term<M>(double(src.at(0)));
+            if constexpr (two) total2[0] += term<M2>(double(src.at(0)));
+            i = 1;
+        }
+    }
+    const Qsp64s start = i;
+    auto a0 = VD::zero(), a1 = a0, a2 = a0, a3 = a0;
+    auto b0 = VD::zero(), b1 = b0, b2 = b0, b3 = b0;
+    for (; i + 8 <= count; i += 8) {
+        __m128d r0, r1, r2, r3;
+        Widened<T>::load4(src, i, r0, r1, r2, r3);
+        a0 = VD::add(a0, term<M, VD>(r0));
+        a1 = VD::add(a1, term<M, VD>(r1));
+        a2 = VD::add(a2, term<M, VD>(r2));
+        a3 = VD::add(a3, term<M, VD>(r3));
+        if constexpr (two) {
+            b0 = VD::add(b0, term<M2, VD>(r0));
+            b1 = VD::add(b1, term<M2, VD>(r1));
+            b2 = VD::add(b2, term<M2, VD>(r2));
+            b3 = VD::add(b3, term<M2, VD>(r3));
+        }
+    }
+    foldWide<P>(a0, a1, a2, a3, total);
+    if constexpr (two) foldWide<P>(b0, b1, b2, b3, total2);
+    for (; i < count; ++i) {
+        total[(i - start) % P] += term<M>(double(src.at(i)));
+        if constexpr (two) total2[(i - start) % P] += term<M2>(double(src.at(i)));
+    }
+}
+
+// The sum and the sum of squares of one-part elements in one pass, each in
+// the order of ownsSumFast_32f (fast) or ownsSumWide (otherwise).
 template <class T, class Src>
 void ownsSumAndSquares(Src src, Qsp64s count, bool fast, double& sum, double& squares)
 {
@@ -197,13 +245,11 @@ void ownsSumAndSquares(Src src, Qsp64s count, bool fast, double& sum, double& sq
     squares = 0;
     if constexpr (sizeof(T) == 4) {
         if (fast) {
-            ownsSumFast_32f<1, Term::Value>(src, count, &sum);
-            ownsSumFast_32f<1, Term::Square>(src, count, &squares);
+            ownsSumFast_32f<1, Term::Value, Term::Square>(src, count, &sum, &squares);
             return;
         }
     }
-    ownsSumWide<1, Term::Value, T>(src, count, &sum);
-    ownsSumWide<1, Term::Square, T>(src, count, &squares);
+    ownsSumWide<1, Term::Value, T, Term::Square>(src, count, &sum, &squares);
 }
 
 // The 32-bit float sum of every hint: 1 the fast scheme, any other value
