@@ -51,10 +51,18 @@ Qsp64f magnitude(T x)
 {
     return negative(x) ? -Qsp64f(x) : Qsp64f(x);
 }
+// The negated level, wrapping for integers: the most negative level is
+// only ever compared as a value, its negation is never used.
+template <class T>
+T negated(T level)
+{
+    if constexpr (std::is_floating_point_v<T>) return -level;
+    else return T(std::make_unsigned_t<T>(0) - std::make_unsigned_t<T>(level));
+}
 template <class T>
 T signedLevel(T x, T level)
 {
-    return negative(x) ? T(-level) : level;
+    return negative(x) ? negated(level) : level;
 }
 
 template <class T>
@@ -62,7 +70,7 @@ struct Level {
     using V = simd::Vec<T>;
     Reg<T> l, nl;
     T lv;
-    explicit Level(T level) : l(V::splat(level)), nl(V::splat(T(-level))), lv(level) {}
+    explicit Level(T level) : l(V::splat(level)), nl(V::splat(negated(level))), lv(level) {}
 };
 
 template <class T>
