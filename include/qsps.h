@@ -227,9 +227,19 @@ QspStatus qspsCopyBE_1u(const Qsp8u* pSrc, int srcBitOffset, Qsp8u* pDst, int ds
 
 /* MulC -------------------------------------------------------------------- */
 /*
- * Multiplication by a constant: pDst[i] = pSrc[i] * val (in place:
- * pSrcDst[i] = pSrcDst[i] * val). Floating results are the IEEE products,
- * rounded to nearest.
+ * Multiplication by a constant: pDst[i] = pSrc[i] * val (in place: pSrcDst[i]
+ * = pSrcDst[i] * val). Floating results are the IEEE products (complex: re =
+ * ar*cr - ai*ci, im = ai*cr + ar*ci, each product rounded before the sum, so
+ * each part is within 2^-23 (single) or 2^-52 (double) of |ar*cr| + |ai*ci|).
+ * Integer Sfs forms scale the exact product by 2^-scaleFactor, round to
+ * nearest even and saturate; the 16sc constant -32768 - 32768i, whose products
+ * reach 2^31, runs its own kernels with the same results. 32f16s: the exact
+ * product of the floats, scaled, rounded to nearest even and saturated (NaN
+ * gives 0). The _L forms run over their 64-bit length with kernels of their
+ * own: the floating ones check the length before the pointers, 32s_Sfs_L and
+ * 32s_ISfs_L the pointers first. A destination may be the same vector as a
+ * source (that is how the I forms run); other overlaps are not allowed.
+ * Thread-safe.
  */
 QspStatus qspsMulC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
 QspStatus qspsMulC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
@@ -265,13 +275,18 @@ QspStatus qspsMulC_32s_ISfs_L(Qsp32s val, Qsp32s* pSrcDst, Qsp64s len, int scale
 
 /* Add --------------------------------------------------------------------- */
 /*
- * Element-wise sum: pDst[i] = pSrc1[i] + pSrc2[i]; in place pSrcDst[i] += pSrc[i].
- * Integer forms without Sfs saturate to the destination type; Sfs/ISfs forms
- * scale the exact sum by 2^-scaleFactor, round to nearest even and saturate
- * (complex: each part alone). Mixed codes name the sources first and the
- * destination last (8u16u: 8u sources, 16u sum). Floating sums are IEEE sums.
- * _L forms take a 64-bit length, check it first and work in chunks of
- * floor((2^31-1)/element size) elements.
+ * Element-wise sum: pDst[i] = pSrc1[i] + pSrc2[i]; in place pSrcDst[i] +=
+ * pSrc[i]. Integer forms without Sfs saturate to the destination type;
+ * Sfs/ISfs forms scale the exact sum by 2^-scaleFactor, round to nearest even
+ * and saturate (complex: each part alone; scale factors from the bit length of
+ * the largest sum plus one up write zeros, e.g. 17 and above for 16s). Mixed
+ * codes name the sources first and the destination last (8u16u: 8u sources,
+ * 16u sum; 16s32f: the exact sum as a float; 32f64f_I: the float widened, then
+ * added). Floating sums are IEEE sums, correctly rounded. _L forms take a
+ * 64-bit length, check it first and work in chunks of floor((2^31-1)/element
+ * size) elements; the status is that of the last chunk. A destination may be
+ * the same vector as a source (that is how the I forms run); other overlaps
+ * are not allowed. Thread-safe.
  */
 QspStatus qspsAdd_16u(const Qsp16u* pSrc1, const Qsp16u* pSrc2, Qsp16u* pDst, int len);
 QspStatus qspsAdd_16u_I(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len);
@@ -350,10 +365,14 @@ QspStatus qspsSub_64fc_I_L(const Qsp64fc* pSrc, Qsp64fc* pSrcDst, Qsp64s len);
 /* Mul --------------------------------------------------------------------- */
 /*
  * Element-wise product: pDst[i] = pSrc1[i] * pSrc2[i]; in place pSrcDst[i] *=
- * pSrc[i]. Complex operands use the complex product. Mixed forms: 32f32fc
- * multiplies a complex vector (second source, or pSrcDst) by a real one;
- * 16u16s and 16s32s widen. Integer forms round and saturate as Add does; the
- * exact product of two 16s values lies in [-1073709056, 1073741824].
+ * pSrc[i]. Real floating products are correctly rounded IEEE products; complex
+ * products are formed as for MulC (each part within 2^-23 or 2^-52 of |ar*br|
+ * + |ai*bi|). Mixed forms: 32f32fc multiplies a complex vector (second source,
+ * or pSrcDst) by a real one; 16s32f rounds the exact product once to single;
+ * 8u16u, 16u16s and 16s32s widen. Integer forms round and saturate as Add
+ * does; the exact product of two 16s values lies in [-1073709056, 1073741824].
+ * _L forms chunk as Add does. A destination may be the same vector as a source
+ * (that is how the I forms run); other overlaps are not allowed. Thread-safe.
  */
 QspStatus qspsMul_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
 QspStatus qspsMul_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
@@ -497,8 +516,11 @@ QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
 /* AddProduct -------------------------------------------------------------- */
 /*
  * Accumulates a product: pSrcDst[i] += pSrc1[i] * pSrc2[i] (complex: the
- * complex product). Integer forms scale and saturate the new sum as Add does
- * (the product and the old value are added exactly before scaling).
+ * complex product). Floating forms round the product, then the sum (no fused
+ * operation). Integer forms add the exact product to the old value, then scale
+ * by 2^-scaleFactor, round to nearest even and saturate. A destination may be
+ * the same vector as a source (that is how the I forms run); other overlaps
+ * are not allowed. Thread-safe.
  */
 QspStatus qspsAddProduct_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pSrcDst, int len);
 QspStatus qspsAddProduct_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pSrcDst, int len);
@@ -536,11 +558,16 @@ QspStatus qspsSqr_64f_I_L(Qsp64f* pSrcDst, Qsp64s len);
 
 /* Sqrt -------------------------------------------------------------------- */
 /*
- * Square root: pDst[i] = sqrt(pSrc[i]) (complex: the principal root); in place
- * on pSrcDst. A negative real element gives a NaN (floating) or 0 (integer)
- * and the warning qspStsWarnOutOfDomain once the whole output is written.
- * Integer forms scale, round and saturate (Sfs rule); 32s16s and 64s16s read
- * wide integers and write 16-bit roots.
+ * Square root: pDst[i] = sqrt(pSrc[i]); in place on pSrcDst. Real floating
+ * roots are correctly rounded (-0.0 gives -0.0); a negative element gives a
+ * NaN (floating) or 0 (integer) and the warning qspStsWarnOutOfDomain once the
+ * whole output is written. Complex forms give the principal root (real part >=
+ * 0), computed in double precision with scaling, so no intermediate overflows.
+ * Integer forms take the exact root of the element, scaled by 2^-scaleFactor,
+ * rounded to nearest even and saturated; 32s16s and 64s16s read wide integers
+ * and write 16-bit roots; 16sc rounds the double-precision complex root part
+ * by part. A destination may be the same vector as a source (that is how the I
+ * forms run); other overlaps are not allowed. Thread-safe.
  */
 QspStatus qspsSqrt_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
 QspStatus qspsSqrt_32f_I(Qsp32f* pSrcDst, int len);
@@ -622,9 +649,12 @@ QspStatus qspsRealToCplx_64f_L(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64
 /* Magnitude --------------------------------------------------------------- */
 /*
  * Magnitude of complex elements: pDst[i] = sqrt(re^2 + im^2), from an
- * interleaved complex vector (pSrc) or from separate parts (pSrcRe, pSrcIm).
- * 16sc and 32sc forms: 16sc32f writes floats, Sfs forms scale, round and saturate.
- * _L forms chunk as Add does.
+ * interleaved complex vector (pSrc) or from separate parts (pSrcRe, pSrcIm),
+ * without overflow or underflow on the way. Single precision (and 16sc32f) is
+ * formed in double and rounded once more: within 0.5 ULP plus 2^-20 ULP.
+ * Double precision is scaled by a power of two first: within 1.5 ULP. The Sfs
+ * forms take the exact root of the exact sum of squares, scaled, rounded to
+ * nearest even and saturated. _L forms chunk as Add does. Thread-safe.
  */
 QspStatus qspsMagnitude_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
 QspStatus qspsMagnitude_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
@@ -639,8 +669,13 @@ QspStatus qspsMagnitude_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDst, Qsp64s len);
 /* Phase ------------------------------------------------------------------- */
 /*
  * Phase angle of complex elements: pDst[i] = atan2(im, re) in radians, in
- * (-pi, pi]; from an interleaved vector (pSrc) or from separate parts (pSrcRe,
- * pSrcIm). The Sfs form scale the angle by 2^-scaleFactor before rounding.
+ * [-pi, pi] (-pi only for a negative real part with a -0.0 imaginary part;
+ * atan2(+-0, +0) is +-0), from an interleaved vector (pSrc) or from separate
+ * parts (pSrcRe, pSrcIm). Computed in double precision: double results within
+ * 2.5 ULP (2.03 measured), single results that angle rounded to single (within
+ * 0.5 ULP plus 2^-20 ULP). The Sfs form rounds the angle times 2^-scaleFactor
+ * to nearest even and saturates (scaleFactor -13 maps pi to 25736). A NaN part
+ * gives NaN. Thread-safe.
  */
 QspStatus qspsPhase_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
 QspStatus qspsPhase_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
@@ -652,8 +687,10 @@ QspStatus qspsPhase_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int sca
 /* PowerSpectr ------------------------------------------------------------- */
 /*
  * Power of complex elements: pDst[i] = re^2 + im^2, from an interleaved vector
- * (pSrc) or from separate parts (pSrcRe, pSrcIm). Sfs forms scale, round and saturate. _L forms
- * chunk as Add does.
+ * (pSrc) or from separate parts (pSrcRe, pSrcIm). Floating forms round both
+ * squares and their sum: within 1.5 ULP. The Sfs form scales the exact sum of
+ * squares (up to 2^31), rounds to nearest even and saturates. _L forms chunk
+ * as Add does. Thread-safe.
  */
 QspStatus qspsPowerSpectr_32fc(const Qsp32fc* pSrc, Qsp32f* pDst, int len);
 QspStatus qspsPowerSpectr_64fc(const Qsp64fc* pSrc, Qsp64f* pDst, int len);
@@ -666,8 +703,12 @@ QspStatus qspsPowerSpectr_64fc_L(const Qsp64fc* pSrc, Qsp64f* pDst, Qsp64s len);
 /* Normalize --------------------------------------------------------------- */
 /*
  * Shifts and scales: pDst[i] = (pSrc[i] - vSub) / vDiv; in place on pSrcDst.
- * vDiv equal to zero gives qspStsZeroDivisor. The 16-bit forms compute
- * exactly, then scale by 2^-scaleFactor, round and saturate.
+ * vDiv equal to zero (-0.0 included) gives qspStsZeroDivisor, checked after
+ * the pointers and the length. Floating forms round the difference, then the
+ * quotient (complex: each part divided by the real vDiv). The 16-bit forms
+ * divide the exact difference exactly, then scale by 2^-scaleFactor, round to
+ * nearest even and saturate. A destination may be the same vector as a source
+ * (that is how the I forms run); other overlaps are not allowed. Thread-safe.
  */
 QspStatus qspsNormalize_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f vSub, Qsp32f vDiv);
 QspStatus qspsNormalize_32f_I(Qsp32f* pSrcDst, int len, Qsp32f vSub, Qsp32f vDiv);
@@ -686,11 +727,17 @@ QspStatus qspsNormalize_16sc_ISfs(Qsp16sc* pSrcDst, int len, Qsp16sc vSub, int v
 /*
  * Element-wise quotient, second source divided by the first: pDst[i] =
  * pSrc2[i] / pSrc1[i]; in place pSrcDst[i] = pSrcDst[i] / pSrc[i]. When any
- * divisor element compares equal to zero the whole output is still written and
- * the warning qspStsWarnDivByZero is returned; integer quotients by zero are the
- * type's maximum for a positive dividend, its minimum for a negative one and 0
- * for 0. Integer forms scale, round to nearest even and saturate. _L forms
- * chunk as Add does.
+ * divisor element compares equal to zero (complex: both parts) the whole
+ * output is still written and the warning qspStsWarnDivByZero is returned;
+ * integer quotients by zero are the type's maximum for a positive dividend,
+ * its minimum for a negative one and 0 for 0 (16sc: part by part). Real
+ * floating quotients are IEEE quotients; 32fc quotients are formed in double
+ * (each part within 0.5 ULP plus 2^-20 ULP), 64fc ones with the divisor scaled
+ * by a power of two (each part within 6 * 2^-53 of |b| / |a|). Integer forms
+ * take the exact quotient, scale it, round to nearest even and saturate. _L
+ * forms chunk as Add does (the status is the last chunk's). A destination may
+ * be the same vector as a source (that is how the I forms run); other overlaps
+ * are not allowed. Thread-safe.
  */
 QspStatus qspsDiv_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
 QspStatus qspsDiv_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
@@ -737,10 +784,13 @@ QspStatus qspsDiv_Round_16u_ISfs(const Qsp16u* pSrc, Qsp16u* pSrcDst, int len, Q
 /* DivC -------------------------------------------------------------------- */
 /*
  * Divides by a constant: pDst[i] = pSrc[i] / val; in place pSrcDst[i] /= val.
- * A zero val (floating: one that compares equal to 0.0) gives
- * qspStsZeroDivisor. The floating forms multiply by the reciprocal of val,
- * computed once in the element precision. Integer forms scale, round and
- * saturate. _L forms chunk as Add does.
+ * A zero val (floating: one that compares equal to 0.0; complex: both parts)
+ * gives qspStsZeroDivisor after the pointer and length checks. The floating
+ * forms are MulC with the reciprocal of val, computed once and rounded to the
+ * element precision. Integer forms take the exact quotient, scale it, round to
+ * nearest even and saturate. _L forms chunk as Add does. A destination may be
+ * the same vector as a source (that is how the I forms run); other overlaps
+ * are not allowed. Thread-safe.
  */
 QspStatus qspsDivC_32f(const Qsp32f* pSrc, Qsp32f val, Qsp32f* pDst, int len);
 QspStatus qspsDivC_32f_I(Qsp32f val, Qsp32f* pSrcDst, int len);
@@ -771,7 +821,10 @@ QspStatus qspsDivC_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
 /*
  * Divides a constant by every element: pDst[i] = val / pSrc[i]; in place
  * pSrcDst[i] = val / pSrcDst[i]. Zero elements give the warning
- * qspStsWarnDivByZero as in Div. _L forms chunk as Add does.
+ * qspStsWarnDivByZero after the whole output is written, as in Div (16u: 65535
+ * for a non-zero val, 0 for 0; other 16u quotients round to nearest even). _L
+ * forms chunk as Add does. A destination may be the same vector as a source
+ * (that is how the I forms run); other overlaps are not allowed. Thread-safe.
  */
 QspStatus qspsDivCRev_16u(const Qsp16u* pSrc, Qsp16u val, Qsp16u* pDst, int len);
 QspStatus qspsDivCRev_16u_I(Qsp16u val, Qsp16u* pSrcDst, int len);
@@ -787,12 +840,19 @@ QspStatus qspsDivCRev_64f_I_L(Qsp64f val, Qsp64f* pSrcDst, Qsp64s len);
 /* Convert ----------------------------------------------------------------- */
 /*
  * Converts between element types, source code first: pDst[i] = pSrc[i] in the
- * destination type. Widening conversions are exact. Narrowing integer and
- * float-to-integer forms (Sfs) multiply by 2^-scaleFactor, round as rndMode
- * says (0 toward zero, 1 to nearest even, 2 to nearest with ties away from
- * zero; above 2 gives qspStsBadRoundMode) and saturate; integer-to-float Sfs
- * forms only scale. 16f is IEEE half precision; 24u/24s elements are three
- * bytes, least significant first, so those vectors hold 3*len bytes.
+ * destination type. Widening conversions are exact; integer to floating and
+ * 64f32f round to nearest even (IEEE); narrowing integer ones without Sfs
+ * saturate; complex ones convert part by part. Float-to-integer Sfs forms
+ * multiply by 2^-scaleFactor exactly, round as rndMode says (0 toward zero, 1
+ * to nearest even, 2 to nearest with ties away from zero) and saturate; NaN
+ * gives 0. rndMode other than 0, 1, 2 (negative too) gives qspStsBadRoundMode
+ * after the pointer and length checks. Integer Sfs forms apply the scale-
+ * factor rule (to nearest even); integer-to-float Sfs forms scale exactly and
+ * round once. 16f is IEEE half precision, held as its bits: widening is exact;
+ * narrowing rounds on the half grid in the given mode, values beyond 65504
+ * give infinity (toward zero: 65504), NaN stays NaN. 24u/24s elements are
+ * three bytes, least significant first, so those vectors hold 3*len bytes.
+ * Thread-safe.
  */
 QspStatus qspsConvert_8s16s(const Qsp8s* pSrc, Qsp16s* pDst, int len);
 QspStatus qspsConvert_8s32f(const Qsp8s* pSrc, Qsp32f* pDst, int len);
@@ -852,19 +912,24 @@ QspStatus qspsConvert_32s64f_Sfs(const Qsp32s* pSrc, Qsp64f* pDst, int len, int 
 
 /* Threshold --------------------------------------------------------------- */
 /*
- * Clamps elements against a level. Threshold_T with relOp qspCmpLess (0):
- * pDst[i] = max(pSrc[i], level); with qspCmpGreater (4): min(pSrc[i], level);
- * any other relOp gives qspStsBadArgument. LT/GT: the same with the comparison
- * fixed. LTVal/GTVal: elements below (above) level are replaced by value.
- * LTAbs/GTAbs: elements whose magnitude is below (above) level get magnitude
- * level, keeping their sign. LTAbsVal: elements whose magnitude is below level
- * become value. LTInv: pDst[i] = 1/pSrc[i], with magnitudes below level taken
- * as level (a zero level with a zero element gives the warning
+ * Clamps elements against a level. Threshold with relOp qspCmpLess (0):
+ * pDst[i] = pSrc[i] < level ? level : pSrc[i]; with qspCmpGreater (4): pSrc[i]
+ * > level ? level : pSrc[i]; any other relOp gives qspStsBadArgument. LT/GT:
+ * the same with the comparison fixed. LTVal/GTVal: elements below (above)
+ * level are replaced by value. LTAbs/GTAbs: elements whose magnitude is below
+ * (above) level get magnitude level, keeping their sign (-0.0 gives -level).
+ * LTAbsVal: elements whose magnitude is below level become value. LTInv:
+ * pDst[i] = 1/pSrc[i], with magnitudes below level taken as level (a zero
+ * level with a zero element gives infinity and the warning
  * qspStsWarnDivByZero). LTValGTVal: below levelLT becomes valueLT, above
- * levelGT becomes valueGT; levelLT above levelGT gives qspStsBadThreshold.
- * Complex forms compare magnitudes and keep the phase. A negative level of an
- * Abs or Inv form gives qspStsBadThreshold. _L forms of LTAbs chunk as Add
- * does.
+ * levelGT becomes valueGT (both compared with the original element); levelLT
+ * above levelGT gives qspStsBadThreshold. NaN elements compare false and stay.
+ * Complex forms compare magnitudes and keep the phase (a zero element raised
+ * to a level becomes level on the real axis). A negative level of an Abs or
+ * Inv form gives qspStsBadThreshold. Mode checks come after the pointers and
+ * the length. _L forms of LTAbs chunk as Add does. A destination may be the
+ * same vector as a source (that is how the I forms run); other overlaps are
+ * not allowed. Thread-safe.
  */
 QspStatus qspsThreshold_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp16s level, QspCmpOp relOp);
 QspStatus qspsThreshold_16s_I(Qsp16s* pSrcDst, int len, Qsp16s level, QspCmpOp relOp);
