@@ -41,6 +41,8 @@ template <class C>
 QspStatus divComplex(const C* pSrc1, const C* pSrc2, C* pDst, int len)
 {
     if (QspStatus s = check::vectors(len, pSrc1, pSrc2, pDst)) return s;
+    if constexpr (sizeof(C) == 8)
+        return cdiv::quotients(pSrc1, pSrc2, pDst, len) ? qspStsWarnDivByZero : qspStsOk;
     bool zero = false;
     for (int i = 0; i < len; ++i) {
         const C a = pSrc1[i];

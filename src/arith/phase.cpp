@@ -10,11 +10,28 @@
 namespace y8 {
 namespace {
 
+// Angles in blocks: the parts widened to double, the block's arctangents
+// two at a time, then each angle delivered by put(i, angle).
+template <class ImAt, class ReAt, class Put>
+void anglesInBlocks(int len, ImAt imAt, ReAt reAt, Put put)
+{
+    constexpr int kBlock = 256;
+    double im[kBlock], re[kBlock];
+    for (int start = 0; start < len; start += kBlock) {
+        const int n = len - start < kBlock ? len - start : kBlock;
+        for (int j = 0; j < n; ++j) im[j] = double(imAt(start + j)), re[j] = double(reAt(start + j));
+        mathfn::atan2(im, re, im, n);
+        for (int j = 0; j < n; ++j) put(start + j, im[j]);
+    }
+}
+
 template <class C, class D>
 QspStatus phase(const C* pSrc, D* pDst, int len)
 {
     if (QspStatus s = check::vectors(len, pSrc, pDst)) return s;
-    for (int i = 0; i < len; ++i) pDst[i] = D(mathfn::atan2(double(pSrc[i].im), double(pSrc[i].re)));
+    anglesInBlocks(
+        len, [=](int i) { return pSrc[i].im; }, [=](int i) { return pSrc[i].re; },
+        [=](int i, double a) { pDst[i] = D(a); });
     return qspStsOk;
 }
 
@@ -22,7 +39,8 @@ template <class P>
 QspStatus phaseParts(const P* pRe, const P* pIm, P* pDst, int len)
 {
     if (QspStatus s = check::vectors(len, pRe, pIm, pDst)) return s;
-    for (int i = 0; i < len; ++i) pDst[i] = P(mathfn::atan2(double(pIm[i]), double(pRe[i])));
+    anglesInBlocks(
+        len, [=](int i) { return pIm[i]; }, [=](int i) { return pRe[i]; }, [=](int i, double a) { pDst[i] = P(a); });
     return qspStsOk;
 }
 
@@ -43,8 +61,9 @@ QspStatus qspsPhase_16sc_Sfs(const Qsp16sc* pSrc, Qsp16s* pDst, int len, int sca
 {
     if (QspStatus s = check::vectors(len, pSrc, pDst)) return s;
     const double k = rounding::scaleOf(scaleFactor);
-    for (int i = 0; i < len; ++i)
-        pDst[i] = rounding::toInt<rounding::kNear, Qsp16s>(mathfn::atan2(pSrc[i].im, pSrc[i].re) * k);
+    anglesInBlocks(
+        len, [=](int i) { return pSrc[i].im; }, [=](int i) { return pSrc[i].re; },
+        [=](int i, double a) { pDst[i] = rounding::toInt<rounding::kNear, Qsp16s>(a * k); });
     return qspStsOk;
 }
 

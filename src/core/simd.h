@@ -206,6 +206,12 @@ struct Vec<double> {
     // Lanes 0, 1 or lanes 2, 3 of a register of floats, widened exactly.
     static Reg widenLow(__m128 f) { return _mm_cvtps_pd(f); }
     static Reg widenHigh(__m128 f) { return _mm_cvtps_pd(_mm_movehl_ps(f, f)); }
+    // Two registers rounded to single precision into one: lo's lanes, then hi's.
+    static __m128 narrow(Reg lo, Reg hi) { return _mm_movelh_ps(_mm_cvtpd_ps(lo), _mm_cvtpd_ps(hi)); }
+    static Reg pair(double a, double b) { return _mm_setr_pd(a, b); }
+    // Lanes truncated to 32-bit integers (in the low two lanes) and back.
+    static __m128i truncToInt32(Reg a) { return _mm_cvttpd_epi32(a); }
+    static Reg fromInt32(__m128i a) { return _mm_cvtepi32_pd(a); }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
@@ -311,6 +317,8 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg neg(Reg a) { return _mm_sub_epi32(_mm_setzero_si128(), a); }
     static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
     static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }
+    template <int i>
+    static Qsp32s lane(Reg a) { return _mm_extract_epi32(a, i); }
     static Reg signBit() { return _mm_set1_epi32(Qsp32s(0x80000000u)); }
     // a with the sign of b applied: a, -a or 0 as b is positive, negative, 0.
     static Reg sign(Reg a, Reg b) { return _mm_sign_epi32(a, b); }

@@ -2,6 +2,7 @@
 #include "arctan.h"
 
 #include "qspdefs.h"
+#include "simd.h"
 
 namespace mathfn {
 namespace {
@@ -31,24 +32,38 @@ double withSign(double m, bool negative) { return negative ? -m : m; }
 
 // atan(t) for 0 <= t <= 1 as a value plus correction: the correction holds
 // the table's correction and the series, the value the table entry.
+// u - u^3/3 + u^5/5 - ... - u^15/15 + u^17/17, on a double or a register
+// of them, with the same operations in the same order.
+template <class Ops, class R>
+R series(R u)
+{
+    const R u2 = Ops::mul(u, u);
+    R p = Ops::splat(1.0 / 17);
+    constexpr double kTerms[] = {-1.0 / 15, 1.0 / 13, -1.0 / 11, 1.0 / 9, -1.0 / 7, 1.0 / 5, -1.0 / 3};
+    for (double term : kTerms) p = Ops::add(Ops::mul(p, u2), Ops::splat(term));
+    return Ops::add(u, Ops::mul(u, Ops::mul(u2, p)));
+}
+struct ScalarOps {
+    static double mul(double a, double b) { return a * b; }
+    static double add(double a, double b) { return a + b; }
+    static double splat(double a) { return a; }
+};
+
 Split atanUnit(double t)
 {
     const int k = int(t * 8.0 + 0.5);
     const double c = k * 0.125;
     const double u = (t - c) / (1.0 + t * c);  // t - c is exact
-    const double u2 = u * u;
-    // u - u^3/3 + u^5/5 - ... - u^15/15 + u^17/17
-    double p = 1.0 / 17;
-    p = p * u2 - 1.0 / 15;
-    p = p * u2 + 1.0 / 13;
-    p = p * u2 - 1.0 / 11;
-    p = p * u2 + 1.0 / 9;
-    p = p * u2 - 1.0 / 7;
-    p = p * u2 + 1.0 / 5;
-    p = p * u2 - 1.0 / 3;
-    const double series = u + u * (u2 * p);
-    return {kAtanEighths[k].hi, kAtanEighths[k].lo + series};
+    return {kAtanEighths[k].hi, kAtanEighths[k].lo + series<ScalarOps>(u)};
 }
+
+// The angle's base and the sign of atan(t) in it, by the signs of x and
+// whether |y| > |x| (index nx + 2 swap): a, pi - a, pi/2 - a, pi/2 + a.
+struct Base {
+    double hi, lo, sign;
+};
+constexpr Base kBases[4] = {
+    {0.0, 0.0, 1.0}, {kPi.hi, kPi.lo, -1.0}, {kHalfPi.hi, kHalfPi.lo, -1.0}, {kHalfPi.hi, kHalfPi.lo, 1.0}};
 
 }  // namespace
 
@@ -79,6 +94,43 @@ double atan2(double y, double x)
         r = nx ? (kHalfPi.hi + a.hi) + (kHalfPi.lo + a.lo) : (kHalfPi.hi - a.hi) + (kHalfPi.lo - a.lo);
     }
     return withSign(r, ny);
+}
+
+void atan2(const double* y, const double* x, double* out, int n)
+{
+    using V = simd::Vec<double>;
+    using VI = simd::Vec<Qsp32s>;
+    const V::Reg largest = V::splat(__builtin_bit_cast(double, Qsp64u(0x7FEFFFFFFFFFFFFFull)));
+    int i = 0;
+    for (; i + 2 <= n; i += 2) {
+        const V::Reg vy = V::loadu(y + i), vx = V::loadu(x + i);
+        const V::Reg ay = V::andNot(V::signBit(), vy), ax = V::andNot(V::signBit(), vx);
+        const int finite = V::anyMask(V::bitAnd(V::cmple(ax, largest), V::cmple(ay, largest)));
+        const int zeros = V::anyMask(V::bitAnd(V::cmpeq(ax, V::zero()), V::cmpeq(ay, V::zero())));
+        if (finite != 3 || zeros != 0) {
+            const double y0 = y[i], x0 = x[i], y1 = y[i + 1], x1 = x[i + 1];
+            out[i] = atan2(y0, x0);
+            out[i + 1] = atan2(y1, x1);
+            continue;
+        }
+        // t = min / max of the magnitudes, as the scalar path forms it.
+        const V::Reg swap = V::cmpgt(ay, ax);
+        const V::Reg t = V::div(V::select(swap, ay, ax), V::select(swap, ax, ay));
+        const __m128i k = V::truncToInt32(V::add(V::mul(t, V::splat(8.0)), V::splat(0.5)));
+        const V::Reg c = V::mul(V::fromInt32(k), V::splat(0.125));
+        const V::Reg u = V::div(V::sub(t, c), V::add(V::splat(1.0), V::mul(t, c)));
+        const int k0 = VI::lane<0>(k), k1 = VI::lane<1>(k);
+        const V::Reg hi = V::pair(kAtanEighths[k0].hi, kAtanEighths[k1].hi);
+        const V::Reg lo = V::add(V::pair(kAtanEighths[k0].lo, kAtanEighths[k1].lo), series<V>(u));
+        const int cases = V::anyMask(vx) | V::anyMask(swap) << 2;  // nx0 nx1 swap0 swap1
+        const Base& b0 = kBases[(cases & 1) | (cases >> 1 & 2)];
+        const Base& b1 = kBases[(cases >> 1 & 1) | (cases >> 2 & 2)];
+        const V::Reg sign = V::pair(b0.sign, b1.sign);
+        const V::Reg r = V::add(V::add(V::pair(b0.hi, b1.hi), V::mul(sign, hi)),
+                                V::add(V::pair(b0.lo, b1.lo), V::mul(sign, lo)));
+        V::storeu(out + i, V::bitXor(r, V::bitAnd(vy, V::signBit())));
+    }
+    for (; i < n; ++i) out[i] = atan2(y[i], x[i]);
 }
 
 }  // namespace mathfn

@@ -13,4 +13,9 @@ namespace mathfn {
 
 double atan2(double y, double x);
 
+// out[i] = atan2(y[i], x[i]) for n pairs, two at a time in vector lanes,
+// each result bit-identical to the function above (a pair holding a NaN,
+// an infinity or a zero angle's two zeros goes through it). out may be y or x.
+void atan2(const double* y, const double* x, double* out, int n);
+
 }  // namespace mathfn

@@ -210,3 +210,36 @@ TEST(Div, ComplexFloatingQuotients)
     EXPECT_NEAR(d[1].re, 0.5, 1e-15);
     EXPECT_NEAR(d[1].im, 0.5, 1e-15);
 }
+
+TEST(Div, SinglePrecisionComplexExtremesNeitherOverflowNorUnderflow)
+{
+    // Parts from the largest to the smallest denormal, in every lane: the
+    // quotient is formed in double, so each part is the long double one
+    // rounded (0.5 ULP plus 2^-20 ULP), and a zero divisor gives IEEE
+    // infinities or NaN with the warning.
+    const float parts[] = {3.4e38f, -3.4e38f, 1.4e-45f, -1.4e-45f, 1e-30f, 1.0f, -7.5f, 0.0f};
+    std::vector<Qsp32fc> a, b;
+    for (float ar : parts)
+        for (float ai : parts)
+            for (float br : {1.0f, -3.4e38f, 1.4e-45f})
+                a.push_back({ar, ai}), b.push_back({br, ai});
+    const int n = int(a.size());
+    std::vector<Qsp32fc> d(n);
+    ASSERT_EQ(qspsDiv_32fc(a.data(), b.data(), d.data(), n), qspStsWarnDivByZero);
+    for (int i = 0; i < n; ++i) {
+        const LD den = LD(a[i].re) * a[i].re + LD(a[i].im) * a[i].im;
+        if (den == 0) {
+            EXPECT_FALSE(std::isfinite(d[i].re)) << i;
+            continue;
+        }
+        const LD re = (LD(b[i].re) * a[i].re + LD(b[i].im) * a[i].im) / den;
+        const LD im = (LD(b[i].im) * a[i].re - LD(b[i].re) * a[i].im) / den;
+        EXPECT_TRUE(arithsweep::withinUlps(d[i].re, re, 0.5 + 1.0 / (1 << 20))) << i;
+        EXPECT_TRUE(arithsweep::withinUlps(d[i].im, im, 0.5 + 1.0 / (1 << 20))) << i;
+        // Element by element (the one-element path) gives the same bits.
+        Qsp32fc one;
+        ASSERT_EQ(qspsDiv_32fc(&a[i], &b[i], &one, 1), qspStsOk);
+        EXPECT_TRUE(qsptest::sameBits(one.re, d[i].re) && qsptest::sameBits(one.im, d[i].im)) << i;
+    }
+}
+

@@ -68,6 +68,35 @@ TEST(Phase, SpecialValues)
     }
 }
 
+TEST(Phase, SpecialValuesInEveryLaneMatchTheOneElementPath)
+{
+    // Each special pair at every position of short vectors of ordinary
+    // angles: the whole-vector result equals the one-element result bit for
+    // bit, for double and single precision.
+    const Qsp64f specialRe[] = {1, -1, -1, 0, 0, -0.0, INFINITY, -INFINITY, INFINITY, NAN, 1, -2, 1e-310};
+    const Qsp64f specialIm[] = {0, 0, -0.0, 0, -0.0, 0, INFINITY, INFINITY, 1, 1, NAN, -INFINITY, -1e-310};
+    for (int s = 0; s < 13; ++s)
+        for (int len = 1; len <= 6; ++len)
+            for (int at = 0; at < len; ++at) {
+                std::vector<Qsp64f> re(len), im(len), d(len);
+                for (int i = 0; i < len; ++i) re[i] = 0.75 - i, im[i] = 0.5 * i - 1;
+                re[at] = specialRe[s], im[at] = specialIm[s];
+                ASSERT_EQ(qspsPhase_64f(re.data(), im.data(), d.data(), len), qspStsOk);
+                std::vector<Qsp32fc> c(len);
+                std::vector<Qsp32f> f(len);
+                for (int i = 0; i < len; ++i) c[i] = {Qsp32f(re[i]), Qsp32f(im[i])};
+                ASSERT_EQ(qspsPhase_32fc(c.data(), f.data(), len), qspStsOk);
+                for (int i = 0; i < len; ++i) {
+                    Qsp64f one;
+                    Qsp32f oneF;
+                    ASSERT_EQ(qspsPhase_64f(&re[i], &im[i], &one, 1), qspStsOk);
+                    ASSERT_EQ(qspsPhase_32fc(&c[i], &oneF, 1), qspStsOk);
+                    EXPECT_TRUE(qsptest::sameBits(d[i], one)) << s << " " << len << " " << at << " " << i;
+                    EXPECT_TRUE(qsptest::sameBits(f[i], oneF)) << s << " " << len << " " << at << " " << i;
+                }
+            }
+}
+
 TEST(Phase, Scaled16sc)
 {
     for (int sf : {-13, -12, -5, 0, 1, 2, 3}) {
