@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <map>
 #include <string>
 
 #include "qsps.h"
@@ -49,7 +50,10 @@ void registerCase(const std::string& name, const char* impl, Body body, int byte
     for (int64_t n : kSizes) {
         const std::string full = std::string(impl) + "/" + name + "/" + std::to_string(n);
         benchmark::RegisterBenchmark(full.c_str(), [=](benchmark::State& state) {
-            Buffers b(n);
+            // One set of buffers per size for the whole run: filling 16 Mi
+            // elements for every repetition would take longer than timing them.
+            static std::map<int64_t, Buffers> shared;
+            Buffers& b = shared.try_emplace(n, n).first->second;
             for (auto _ : state) {
                 body(b, int(n));
                 benchmark::ClobberMemory();

@@ -71,16 +71,23 @@ struct Bounds {
                                       : std::is_signed_v<D> ? (Qsp64s(1) << (Bits - 1)) - 1 : (Qsp64s(1) << Bits) - 1;
 };
 
-// Single precision to 16-bit integers, eight per iteration in double.
+// Single precision to 16-bit integers, eight per iteration. While 2^-scaleFactor
+// is a normal float the product is formed in single precision: it is exact
+// unless it overflows (and saturates) or falls below 2^-126 (and rounds
+// to 0), so the result is the one double precision gives, four lanes at a
+// time instead of two. Beyond that the product is formed in double.
 template <int M, class D>
 void ownsConvert_32f16(const Qsp32f* pSrc, D* pDst, Qsp64s len, double k)
 {
     using VD = simd::Vec<double>;
     using VF = simd::Vec<float>;
+    const bool single = k >= 0x1p-126 && k <= 0x1p127;
     const VD::Reg kk = VD::splat(k), lo = VD::splat(double(Bounds<D>::lo)), hi = VD::splat(double(Bounds<D>::hi));
+    const VF::Reg kf = VF::splat(float(k)), lof = VF::splat(float(Bounds<D>::lo)), hif = VF::splat(float(Bounds<D>::hi));
     auto four = [&](VF::Reg x) {
-        const __m128i a = rounding::toInt32<M>(VD::mul(_mm_cvtps_pd(x), kk), lo, hi);
-        const __m128i b = rounding::toInt32<M>(VD::mul(_mm_cvtps_pd(_mm_movehl_ps(x, x)), kk), lo, hi);
+        if (single) return rounding::toInt32<M, VF>(VF::mul(x, kf), lof, hif);
+        const __m128i a = rounding::toInt32<M>(VD::mul(VD::widenLow(x), kk), lo, hi);
+        const __m128i b = rounding::toInt32<M>(VD::mul(VD::widenHigh(x), kk), lo, hi);
         return _mm_unpacklo_epi64(a, b);
     };
     Qsp64s i = 0;

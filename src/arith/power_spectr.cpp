@@ -12,12 +12,18 @@ void ownsPowerSpectr(const C* pSrc, P* pDst, Qsp64s len)
     using V = simd::Vec<P>;
     using VC = simd::Vec<C>;
     constexpr Qsp64s L = V::lanes;
+    // Squares of two registers of elements, then real squares plus
+    // imaginary squares (a split and one add: cheaper than a horizontal add).
+    auto power = [](typename V::Reg a, typename V::Reg b) {
+        const typename V::Reg sa = V::mul(a, a), sb = V::mul(b, b);
+        return V::add(V::evens(sa, sb), V::odds(sa, sb));
+    };
     Qsp64s i = 0;
-    for (; i + L <= len; i += L) {
-        const auto a = VC::loadu(pSrc + i), b = VC::loadu(pSrc + i + L / 2);
-        if constexpr (sizeof(P) == 4) V::storeu(pDst + i, _mm_hadd_ps(V::mul(a, a), V::mul(b, b)));
-        else V::storeu(pDst + i, _mm_hadd_pd(V::mul(a, a), V::mul(b, b)));
+    for (; i + 2 * L <= len; i += 2 * L) {
+        V::storeu(pDst + i, power(VC::loadu(pSrc + i), VC::loadu(pSrc + i + L / 2)));
+        V::storeu(pDst + i + L, power(VC::loadu(pSrc + i + L), VC::loadu(pSrc + i + L + L / 2)));
     }
+    for (; i + L <= len; i += L) V::storeu(pDst + i, power(VC::loadu(pSrc + i), VC::loadu(pSrc + i + L / 2)));
     for (; i < len; ++i) pDst[i] = pSrc[i].re * pSrc[i].re + pSrc[i].im * pSrc[i].im;
 }
 

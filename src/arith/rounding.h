@@ -46,22 +46,23 @@ constexpr double scaleOf(int scaleFactor)
 
 using V = simd::Vec<double>;
 
-// Rounding of x to an integral value in the mode M.
-template <int M>
-V::Reg round(V::Reg x)
+// Rounding of the lanes of x (double or single precision) to integral
+// values in the mode M.
+template <int M, class W = V>
+typename W::Reg round(typename W::Reg x)
 {
     if constexpr (M == kZero) {
-        return _mm_round_pd(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+        return W::truncate(x);
     } else if constexpr (M == kNear) {
-        return _mm_round_pd(x, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+        return W::roundEven(x);
     } else {
         // The truncated value, moved one away from zero when the dropped
         // fraction (exact) is at least one half.
-        const V::Reg t = _mm_round_pd(x, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
-        const V::Reg sign = V::bitAnd(x, V::signBit());
-        const V::Reg frac = V::andNot(V::signBit(), V::sub(x, t));
-        const V::Reg step = V::bitAnd(_mm_cmpge_pd(frac, V::splat(0.5)), V::bitOr(V::splat(1.0), sign));
-        return V::add(t, step);
+        const typename W::Reg t = W::truncate(x);
+        const typename W::Reg sign = W::bitAnd(x, W::signBit());
+        const typename W::Reg frac = W::andNot(W::signBit(), W::sub(x, t));
+        const typename W::Reg step = W::bitAnd(W::cmpge(frac, W::splat(0.5)), W::bitOr(W::splat(1.0), sign));
+        return W::add(t, step);
     }
 }
 
@@ -72,18 +73,18 @@ double round(double x)
 }
 
 // x clamped to [lo, hi]; NaN gives 0.
-inline V::Reg clamp(V::Reg x, V::Reg lo, V::Reg hi)
+template <class W = V>
+typename W::Reg clamp(typename W::Reg x, typename W::Reg lo, typename W::Reg hi)
 {
-    const V::Reg ordered = _mm_cmpord_pd(x, x);
-    return V::bitAnd(V::max(V::min(x, hi), lo), ordered);
+    return W::bitAnd(W::max(W::min(x, hi), lo), W::cmpord(x, x));
 }
 
-// Two doubles, rounded and clamped to a range within 32 bits, as the two
-// low 32-bit lanes.
-template <int M>
-__m128i toInt32(V::Reg x, V::Reg lo, V::Reg hi)
+// Lanes rounded and clamped to a range within 32 bits, as 32-bit lanes
+// (from doubles: the two low lanes).
+template <int M, class W = V>
+__m128i toInt32(typename W::Reg x, typename W::Reg lo, typename W::Reg hi)
 {
-    return _mm_cvttpd_epi32(clamp(round<M>(x), lo, hi));
+    return W::toInt32(clamp<W>(round<M, W>(x), lo, hi));
 }
 
 // One double rounded and saturated to the integer type D (up to 64 bits);

@@ -131,6 +131,14 @@ struct Vec<float> {
     static Reg cmple(Reg a, Reg b) { return _mm_cmple_ps(a, b); }
     static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_ps(a, b); }
     static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_ps(a, b); }
+    static Reg cmpge(Reg a, Reg b) { return _mm_cmpge_ps(a, b); }
+    static Reg cmpord(Reg a, Reg b) { return _mm_cmpord_ps(a, b); }
+    // Integral values: toward zero, and to nearest with ties to even,
+    // whatever the current rounding mode.
+    static Reg truncate(Reg a) { return _mm_round_ps(a, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC); }
+    static Reg roundEven(Reg a) { return _mm_round_ps(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
+    // Integral lanes (within 32 bits) as 32-bit integers.
+    static __m128i toInt32(Reg a) { return _mm_cvttps_epi32(a); }
     static int anyMask(Reg a) { return _mm_movemask_ps(a); }
     // Lanes of b where mask is set, of a elsewhere.
     static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_ps(a, b, mask); }
@@ -188,6 +196,12 @@ struct Vec<double> {
     static Reg cmple(Reg a, Reg b) { return _mm_cmple_pd(a, b); }
     static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_pd(a, b); }
     static Reg cmpeq(Reg a, Reg b) { return _mm_cmpeq_pd(a, b); }
+    static Reg cmpge(Reg a, Reg b) { return _mm_cmpge_pd(a, b); }
+    static Reg cmpord(Reg a, Reg b) { return _mm_cmpord_pd(a, b); }
+    static Reg truncate(Reg a) { return _mm_round_pd(a, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC); }
+    static Reg roundEven(Reg a) { return _mm_round_pd(a, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC); }
+    // Integral lanes (within 32 bits) as 32-bit integers in the low two lanes.
+    static __m128i toInt32(Reg a) { return _mm_cvttpd_epi32(a); }
     static int anyMask(Reg a) { return _mm_movemask_pd(a); }
     static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_pd(a, b, mask); }
     static Reg dupRe(Reg a) { return _mm_movedup_pd(a); }
@@ -209,8 +223,6 @@ struct Vec<double> {
     // Two registers rounded to single precision into one: lo's lanes, then hi's.
     static __m128 narrow(Reg lo, Reg hi) { return _mm_movelh_ps(_mm_cvtpd_ps(lo), _mm_cvtpd_ps(hi)); }
     static Reg pair(double a, double b) { return _mm_setr_pd(a, b); }
-    // Lanes truncated to 32-bit integers (in the low two lanes) and back.
-    static __m128i truncToInt32(Reg a) { return _mm_cvttpd_epi32(a); }
     static Reg fromInt32(__m128i a) { return _mm_cvtepi32_pd(a); }
 };
 

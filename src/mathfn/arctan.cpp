@@ -116,7 +116,7 @@ void atan2(const double* y, const double* x, double* out, int n)
         // t = min / max of the magnitudes, as the scalar path forms it.
         const V::Reg swap = V::cmpgt(ay, ax);
         const V::Reg t = V::div(V::select(swap, ay, ax), V::select(swap, ax, ay));
-        const __m128i k = V::truncToInt32(V::add(V::mul(t, V::splat(8.0)), V::splat(0.5)));
+        const __m128i k = V::toInt32(V::add(V::mul(t, V::splat(8.0)), V::splat(0.5)));
         const V::Reg c = V::mul(V::fromInt32(k), V::splat(0.125));
         const V::Reg u = V::div(V::sub(t, c), V::add(V::splat(1.0), V::mul(t, c)));
         const int k0 = VI::lane<0>(k), k1 = VI::lane<1>(k);

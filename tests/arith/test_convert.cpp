@@ -208,7 +208,7 @@ TEST(Convert, TwentyFourBitElements)
 TEST(Convert, FloatToScaledIntegersInEveryMode)
 {
     for (int mode : {0, 1, 2}) {
-        for (int sf : {-40, -17, -3, 0, 1, 2, 5, 16, 31, 40, 300, -300}) {
+        for (int sf : {-40, -17, -3, 0, 1, 2, 5, 16, 31, 40, 300, -300, 126, 127, 150, -126, -127, -128}) {
             auto run = [&](auto fn, auto s, auto d) {
                 using S = decltype(s);
                 using D = decltype(d);
