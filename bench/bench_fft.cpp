@@ -178,6 +178,7 @@ void fftwSetup(benchmark::State& state)
     fftwf_complex* src = fftwf_alloc_complex(n);
     fftwf_complex* dst = fftwf_alloc_complex(n);
     for (auto _ : state) {
+        fftwf_forget_wisdom();
         fftwf_plan p = fftwf_plan_dft_1d(n, src, dst, FFTW_FORWARD, FFTW_ESTIMATE);
         benchmark::DoNotOptimize(p);
         fftwf_destroy_plan(p);
