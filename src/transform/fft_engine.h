@@ -673,10 +673,14 @@ inline int largeRowOrder(int order) { return order < 20 ? 4 : 8; }
 // Columns combined per batch in the large algorithm.
 constexpr int kLargeBatch = 8;
 
+// Complex values per 64-byte cache line.
+template <class T>
+inline constexpr int kLineValues = 64 / int(sizeof(C<T>));
+
 // Twiddle and scratch counts of the large algorithm. The column twiddles
 // W_N^(b k), b < B, k < M, are kept as two factors for the batches of
 // kLargeBatch columns: W_N^(b k0) for every batch start k0 (N / kLargeBatch
-// values, row by row) and W_N^(b kk) for kk < kLargeBatch.
+// values, batch by batch) and W_N^(b kk) for kk < kLargeBatch.
 template <class T>
 inline Qsp64s largeTwiddleCount(int order)
 {
@@ -699,8 +703,9 @@ void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
     tw += passTwiddleCount<T>(Qsp64s(1) << n1);
     const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, step = Qsp64s(1) << (oct.order - order);
     const Qsp64s batches = cols / kLargeBatch;
-    // start[b][t] = W^(b t kLargeBatch), t < M / kLargeBatch: one run per row.
-    for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * batches, batches, 0, b * kLargeBatch * step, oct);
+    // start[t][b] = W^(b t kLargeBatch), t < M / kLargeBatch: batch by batch,
+    // so that a batch reads its B factors from one contiguous piece.
+    for (Qsp64s t = 0; t < batches; ++t) ownsFillTwiddleRun<T>(tw + t * rows, rows, 0, t * kLargeBatch * step, oct);
     tw += batches * rows;
     for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * kLargeBatch, kLargeBatch, 0, b * step, oct);
 }
@@ -725,6 +730,50 @@ struct SplitSource {
     C<T> operator()(Qsp64s i) const { return {re[i], im[i]}; }
 };
 
+// Step 1 of the large algorithm: row b of work (rows x cols) receives
+// x[b], x[b + rows], x[b + 2 rows], ... Tiles of 16 columns keep the 16
+// source rows being read in the first-level cache.
+constexpr Qsp64s kTransposeTile = 16;
+
+template <class T, class Src>
+void ownsLargeTranspose(Src src, C<T>* work, Qsp64s rows, Qsp64s cols)
+{
+    for (Qsp64s j0 = 0; j0 < cols; j0 += kTransposeTile)
+        for (Qsp64s b = 0; b < rows; ++b)
+            for (Qsp64s j = j0; j < j0 + kTransposeTile; ++j) work[b * cols + j] = src(j * rows + b);
+}
+
+// Interleaved source: whole registers. In single precision a register holds
+// x[j rows + b] and x[j rows + b + 1]; two of them (j, j + 1) are regrouped
+// into the pairs of rows b and b + 1.
+template <class T>
+void ownsLargeTranspose(InterleavedSource<T> src, C<T>* work, Qsp64s rows, Qsp64s cols)
+{
+    using K = CV<T>;
+    using V = typename K::V;
+    for (Qsp64s j0 = 0; j0 < cols; j0 += kTransposeTile) {
+        const C<T>* tile = src.p + j0 * rows;
+        if constexpr (K::per == 2) {
+            for (Qsp64s b = 0; b < rows; b += 2) {
+                const C<T>* in = tile + b;
+                C<T>* o0 = work + b * cols + j0;
+                C<T>* o1 = o0 + cols;
+                for (Qsp64s j = 0; j < kTransposeTile; j += 2, in += 2 * rows) {
+                    const auto a = K::load(in), c = K::load(in + rows);
+                    K::store(o0 + j, V::lowHalves(a, c));
+                    K::store(o1 + j, V::highHalves(a, c));
+                }
+            }
+        } else {
+            for (Qsp64s b = 0; b < rows; ++b) {
+                const C<T>* in = tile + b;
+                C<T>* o = work + b * cols + j0;
+                for (Qsp64s j = 0; j < kTransposeTile; ++j, in += rows) K::store(o + j, K::load(in));
+            }
+        }
+    }
+}
+
 // The large algorithm. work holds N values plus largeScratchCount(order).
 // src is read completely (into work) before anything else is written, so it
 // may share memory with rowScratch or out; out may be work or rowScratch.
@@ -745,10 +794,7 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     C<T>* scratchB = scratchA + (Qsp64s(kLargeBatch) << n1);
 
     // 1. Transpose: row b of the work buffer is x[b], x[b + B], x[b + 2B], ...
-    constexpr Qsp64s kTile = 16;
-    for (Qsp64s j0 = 0; j0 < cols; j0 += kTile)
-        for (Qsp64s b = 0; b < rows; ++b)
-            for (Qsp64s j = j0; j < j0 + kTile; ++j) work[b * cols + j] = src(j * rows + b);
+    ownsLargeTranspose<T>(src, work, rows, cols);
 
     // 2. Each row, with the scratch buffer's row as the second buffer; the
     //    first pass reads the work row and writes the other one.
@@ -766,12 +812,18 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     const Qsp64s batchN = Qsp64s(kLargeBatch) << n1;
     const auto f = V::splat(scale);
     for (Qsp64s k0 = 0; k0 < cols; k0 += kLargeBatch) {
-        const C<T>* start = starts + k0 / kLargeBatch;
-        const Qsp64s batches = cols / kLargeBatch;
+        const C<T>* start = starts + (k0 / kLargeBatch) * rows;
+        // The batch reads one short piece of every row, rows a whole row
+        // apart: each piece is a cache miss and on a page of its own. The
+        // pieces of the next batch are fetched while this one is worked on,
+        // and so are the destination pieces of the next batch.
+        const bool ahead = k0 + kLargeBatch < cols;
         for (Qsp64s b = 0; b < rows; ++b) {
             const C<T>* from = rowsInScratch ? at(rowScratch, b * cols + k0, half) : work + b * cols + k0;
+            if (ahead)
+                for (int l = 0; l < kLargeBatch; l += kLineValues<T>) simd::prefetch(from + kLargeBatch + l);
             const C<T>* g = within + b * kLargeBatch;
-            const auto w0 = K::splat(start + b * batches);
+            const auto w0 = K::splat(start + b);
             C<T>* to = scratchA + b * kLargeBatch;
             for (int kk = 0; kk < kLargeBatch; kk += K::per)
                 K::store(to + kk, K::template mul<Inv>(K::load(from + kk), K::template mul<false>(K::load(g + kk), w0)));
@@ -783,6 +835,8 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
         for (Qsp64s r = 0; r < rows; ++r) {
             const C<T>* from = scratchA + r * kLargeBatch;
             C<T>* to = at(out, k0 + r * cols, half);
+            if (ahead)
+                for (int l = 0; l < kLargeBatch; l += kLineValues<T>) simd::prefetch(to + kLargeBatch + l);
             for (int kk = 0; kk < kLargeBatch; kk += K::per) {
                 const auto v = K::load(from + kk);
                 K::store(to + kk, scaled ? V::mul(v, f) : v);
