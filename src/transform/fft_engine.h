@@ -690,6 +690,40 @@ inline Qsp64s largeTwiddleCount(int order)
 }
 inline Qsp64s largeScratchCount(int order) { return 2 * (Qsp64s(kLargeBatch) << largeRowOrder(order)); }
 
+// out[t][b] = W_N^(b t mult), t < count, b < rows, N = 2^order, in single
+// precision: W_N^e = W_N^(h F) W_N^l (e = h F + l, F = 2^ceil(order/2)), the
+// product taken in double from double tables of both factors and rounded
+// once. scratch holds 2 (F + N/F) doubles.
+inline void ownsFillByProducts(C<float>* out, Qsp64s count, Qsp64s rows, Qsp64s mult, int order, double* scratch)
+{
+    const int fineOrder = (order + 1) / 2;
+    const Qsp64s n = Qsp64s(1) << order, fine = Qsp64s(1) << fineOrder, coarse = n >> fineOrder;
+    double* fc = scratch;
+    double* fs = fc + fine;
+    double* cc = fs + fine;
+    double* cs = cc + coarse;
+    const double step = -2.0 / static_cast<double>(n);  // exact: a power of two
+    for (Qsp64s l = 0; l < fine; ++l) {
+        const mathfn::SinCos v = mathfn::sinCosPi(step * static_cast<double>(l));
+        fc[l] = v.c;
+        fs[l] = v.s;
+    }
+    for (Qsp64s h = 0; h < coarse; ++h) {
+        const mathfn::SinCos v = mathfn::sinCosPi(step * static_cast<double>(h << fineOrder));
+        cc[h] = v.c;
+        cs[h] = v.s;
+    }
+    for (Qsp64s t = 0; t < count; ++t) {
+        const Qsp64s de = (t * mult) & (n - 1);
+        Qsp64s e = 0;
+        for (Qsp64s b = 0; b < rows; ++b, e = (e + de) & (n - 1)) {
+            const Qsp64s h = e >> fineOrder, l = e & (fine - 1);
+            out[t * rows + b] = {static_cast<float>(cc[h] * fc[l] - cs[h] * fs[l]),
+                                 static_cast<float>(cc[h] * fs[l] + cs[h] * fc[l])};
+        }
+    }
+}
+
 // Fills the tables of the large algorithm: the row passes, the column
 // passes, the batch-start factors (batch by batch, row by row) and the
 // within-batch factors (row by row).
@@ -705,6 +739,22 @@ void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
     const Qsp64s batches = cols / kLargeBatch;
     // start[t][b] = W^(b t kLargeBatch), t < M / kLargeBatch: batch by batch,
     // so that a batch reads its B factors from one contiguous piece.
+    if constexpr (sizeof(T) == 4) {
+        if (rows == 256 && order >= 22) {
+            // These exponents jump across the whole circle; once the octant
+            // outgrows the second-level cache (4 MiB from order 22 on),
+            // nearly every value read from it misses, while products of two
+            // small tables stay in the cache. Below that the octant is the
+            // cheaper source. The space
+            // behind the large tables (unused, inside the record block)
+            // holds the small tables while they are needed.
+            double* scratch = reinterpret_cast<double*>(tw + batches * rows + (Qsp64s(kLargeBatch) << n1));
+            ownsFillByProducts(tw, batches, rows, kLargeBatch, order, scratch);
+            tw += batches * rows;
+            for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * kLargeBatch, kLargeBatch, 0, b * step, oct);
+            return;
+        }
+    }
     for (Qsp64s t = 0; t < batches; ++t) ownsFillTwiddleRun<T>(tw + t * rows, rows, 0, t * kLargeBatch * step, oct);
     tw += batches * rows;
     for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * kLargeBatch, kLargeBatch, 0, b * step, oct);
