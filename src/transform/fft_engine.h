@@ -181,12 +181,22 @@ inline Qsp64s passTwiddleCount(Qsp64s n)
     return count;
 }
 
-// Number of passes of an n-point transform (n >= 8): radix-4 levels, the
-// last one radix-8 when the order is odd.
+// A standalone single-precision transform of at least 32L values starts
+// with its first two levels in one pass (ownsPass16First). In double
+// precision (two values per register) two plain passes measured faster.
 template <class T>
-inline int passCount(int order, Qsp64s = 1)
+inline bool fusedFirst(int order, Qsp64s s0)
 {
-    return order >> 1;
+    return sizeof(T) == 4 && s0 == 1 && (Qsp64s(1) << order) >= 32 * SV<T>::L;
+}
+
+// Number of passes of an n-point transform (n >= 8): radix-4 levels, the
+// last one radix-8 when the order is odd, the first two in one pass where
+// fusedFirst says so.
+template <class T>
+inline int passCount(int order, Qsp64s s0 = 1)
+{
+    return fusedFirst<T>(order, s0) ? 1 + ((order - 4) >> 1) : order >> 1;
 }
 
 // Rewrites an array of count pairs (count a multiple of L) from
@@ -288,6 +298,62 @@ void ownsPass4First(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>* 
     }
 }
 
+// The first two radix-4 levels of a standalone transform in one pass
+// (s = 1, n >= 32L): vectorised over p2 < n/16, L consecutive values in the
+// lanes. Lane p2 reads x[p2 + j n/16 + jj n/4], runs four butterflies over
+// jj (twiddles w_n^(k (p2 + j n/16))) and four over j (twiddles
+// w_(n/4)^(r p2)), and writes its sixteen results to y[16 p2 + 4 r + k];
+// each quadruple k = 0..3 is transposed from the lanes into one block.
+template <class T, bool Inv, bool InI>
+void ownsPass16First(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>* tw1, const C<T>* tw2)
+{
+    using K = SV<T>;
+    using V = typename K::V;
+    using X = typename K::X;
+    constexpr Qsp64s L = K::L;
+    const Qsp64s m1 = n >> 2, mp1 = passArray<T>(m1), m2 = n >> 4, mp2 = passArray<T>(m2), half = n >> 1;
+    for (Qsp64s p2 = 0; p2 < m2; p2 += L) {
+        X v[16];
+        for (int j = 0; j < 4; ++j) {
+            X o[4];
+            const C<T>* lo = x.lo + p2 + j * m2;
+            const C<T>* hi = x.hi + p2 + j * m2;
+            butterfly4<T, Inv>(K::template load<InI>(lo), K::template load<InI>(lo + m1), K::template load<InI>(hi),
+                               K::template load<InI>(hi + m1), o);
+            v[4 * j] = o[0];
+            for (int k = 1; k < 4; ++k)
+                v[4 * j + k] = K::template mul<Inv>(o[k], K::template load<false>(tw1 + (k - 1) * mp1 + p2 + j * m2));
+        }
+        X z[4][4];
+        for (int k = 0; k < 4; ++k) {
+            X o[4];
+            butterfly4<T, Inv>(v[k], v[4 + k], v[8 + k], v[12 + k], o);
+            z[0][k] = o[0];
+            for (int r = 1; r < 4; ++r) z[r][k] = K::template mul<Inv>(o[r], K::template load<false>(tw2 + (r - 1) * mp2 + p2));
+        }
+        C<T>* out = (p2 < (m2 >> 1)) ? y.lo + 16 * p2 : y.hi + (16 * p2 - half);
+        for (int r = 0; r < 4; ++r) {
+            // Lane l of z[r][k] is output 16 (p2 + l) + 4 r + k.
+            if constexpr (L == 4) {
+                typename V::Reg r0 = z[r][0].re, r1 = z[r][1].re, r2 = z[r][2].re, r3 = z[r][3].re;
+                typename V::Reg i0 = z[r][0].im, i1 = z[r][1].im, i2 = z[r][2].im, i3 = z[r][3].im;
+                _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
+                _MM_TRANSPOSE4_PS(i0, i1, i2, i3);
+                K::template store<false>(out + 4 * r, X{r0, i0});
+                K::template store<false>(out + 16 + 4 * r, X{r1, i1});
+                K::template store<false>(out + 32 + 4 * r, X{r2, i2});
+                K::template store<false>(out + 48 + 4 * r, X{r3, i3});
+            } else {
+                const X* q = z[r];
+                K::template store<false>(out + 4 * r, X{V::zipLo(q[0].re, q[1].re), V::zipLo(q[0].im, q[1].im)});
+                K::template store<false>(out + 4 * r + 2, X{V::zipLo(q[2].re, q[3].re), V::zipLo(q[2].im, q[3].im)});
+                K::template store<false>(out + 16 + 4 * r, X{V::zipHi(q[0].re, q[1].re), V::zipHi(q[0].im, q[1].im)});
+                K::template store<false>(out + 18 + 4 * r, X{V::zipHi(q[2].re, q[3].re), V::zipHi(q[2].im, q[3].im)});
+            }
+        }
+    }
+}
+
 // Last radix-4 pass (n = 4, no twiddles), ntot/4 >= L.
 template <class T, bool Inv, bool InI, bool OutI>
 void ownsPass4Last(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s ntot)
@@ -381,6 +447,16 @@ void ownsRunPasses(Halves<const C<T>> x, Halves<C<T>> a, Halves<C<T>> b, int ord
     Halves<C<T>> out = (passes & 1) ? a : b;
     Qsp64s cur = n, s = s0;
     int i = 0;
+    if (fusedFirst<T>(order, s0)) {
+        const C<T>* tw2 = tw + 3 * passArray<T>(n >> 2);
+        ownsPass16First<T, Inv, true>(in, out, n, tw, tw2);
+        tw = tw2 + 3 * passArray<T>(n >> 4);
+        cur = n >> 4;
+        s = 16;
+        i = 1;
+        in = asConst(out);
+        out = (out.lo == a.lo) ? b : a;
+    }
     for (; i < passes; ++i) {
         if (cur == 8) {
             ownsPass8Last<T, Inv, false, true>(in, out, ntot);
