@@ -181,12 +181,13 @@ inline Qsp64s passTwiddleCount(Qsp64s n)
     return count;
 }
 
-// A standalone transform of at least 32L values starts with its first two
-// levels in one pass (ownsPass16First).
+// A standalone single-precision transform of at least 32L values starts
+// with its first two levels in one pass (ownsPass16First). In double
+// precision (two values per register) two plain passes measured faster.
 template <class T>
 inline bool fusedFirst(int order, Qsp64s s0)
 {
-    return s0 == 1 && (Qsp64s(1) << order) >= 32 * SV<T>::L;
+    return sizeof(T) == 4 && s0 == 1 && (Qsp64s(1) << order) >= 32 * SV<T>::L;
 }
 
 // Number of passes of an n-point transform (n >= 8): radix-4 levels, the
@@ -748,10 +749,14 @@ inline int largeRowOrder(int order) { return order < 20 ? 4 : 8; }
 // Columns combined per batch in the large algorithm.
 constexpr int kLargeBatch = 8;
 
+// Complex values per 64-byte cache line.
+template <class T>
+inline constexpr int kLineValues = 64 / int(sizeof(C<T>));
+
 // Twiddle and scratch counts of the large algorithm. The column twiddles
 // W_N^(b k), b < B, k < M, are kept as two factors for the batches of
 // kLargeBatch columns: W_N^(b k0) for every batch start k0 (N / kLargeBatch
-// values, row by row) and W_N^(b kk) for kk < kLargeBatch.
+// values, batch by batch) and W_N^(b kk) for kk < kLargeBatch.
 template <class T>
 inline Qsp64s largeTwiddleCount(int order)
 {
@@ -760,6 +765,40 @@ inline Qsp64s largeTwiddleCount(int order)
            (Qsp64s(1) << order) / kLargeBatch + (Qsp64s(kLargeBatch) << n1);
 }
 inline Qsp64s largeScratchCount(int order) { return 2 * (Qsp64s(kLargeBatch) << largeRowOrder(order)); }
+
+// out[t][b] = W_N^(b t mult), t < count, b < rows, N = 2^order, in single
+// precision: W_N^e = W_N^(h F) W_N^l (e = h F + l, F = 2^ceil(order/2)), the
+// product taken in double from double tables of both factors and rounded
+// once. scratch holds 2 (F + N/F) doubles.
+inline void ownsFillByProducts(C<float>* out, Qsp64s count, Qsp64s rows, Qsp64s mult, int order, double* scratch)
+{
+    const int fineOrder = (order + 1) / 2;
+    const Qsp64s n = Qsp64s(1) << order, fine = Qsp64s(1) << fineOrder, coarse = n >> fineOrder;
+    double* fc = scratch;
+    double* fs = fc + fine;
+    double* cc = fs + fine;
+    double* cs = cc + coarse;
+    const double step = -2.0 / static_cast<double>(n);  // exact: a power of two
+    for (Qsp64s l = 0; l < fine; ++l) {
+        const mathfn::SinCos v = mathfn::sinCosPi(step * static_cast<double>(l));
+        fc[l] = v.c;
+        fs[l] = v.s;
+    }
+    for (Qsp64s h = 0; h < coarse; ++h) {
+        const mathfn::SinCos v = mathfn::sinCosPi(step * static_cast<double>(h << fineOrder));
+        cc[h] = v.c;
+        cs[h] = v.s;
+    }
+    for (Qsp64s t = 0; t < count; ++t) {
+        const Qsp64s de = (t * mult) & (n - 1);
+        Qsp64s e = 0;
+        for (Qsp64s b = 0; b < rows; ++b, e = (e + de) & (n - 1)) {
+            const Qsp64s h = e >> fineOrder, l = e & (fine - 1);
+            out[t * rows + b] = {static_cast<float>(cc[h] * fc[l] - cs[h] * fs[l]),
+                                 static_cast<float>(cc[h] * fs[l] + cs[h] * fc[l])};
+        }
+    }
+}
 
 // Fills the tables of the large algorithm: the row passes, the column
 // passes, the batch-start factors (batch by batch, row by row) and the
@@ -774,8 +813,25 @@ void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
     tw += passTwiddleCount<T>(Qsp64s(1) << n1);
     const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, step = Qsp64s(1) << (oct.order - order);
     const Qsp64s batches = cols / kLargeBatch;
-    // start[b][t] = W^(b t kLargeBatch), t < M / kLargeBatch: one run per row.
-    for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * batches, batches, 0, b * kLargeBatch * step, oct);
+    // start[t][b] = W^(b t kLargeBatch), t < M / kLargeBatch: batch by batch,
+    // so that a batch reads its B factors from one contiguous piece.
+    if constexpr (sizeof(T) == 4) {
+        if (rows == 256 && order >= 22) {
+            // These exponents jump across the whole circle; once the octant
+            // outgrows the second-level cache (4 MiB from order 22 on),
+            // nearly every value read from it misses, while products of two
+            // small tables stay in the cache. Below that the octant is the
+            // cheaper source. The space
+            // behind the large tables (unused, inside the record block)
+            // holds the small tables while they are needed.
+            double* scratch = reinterpret_cast<double*>(tw + batches * rows + (Qsp64s(kLargeBatch) << n1));
+            ownsFillByProducts(tw, batches, rows, kLargeBatch, order, scratch);
+            tw += batches * rows;
+            for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * kLargeBatch, kLargeBatch, 0, b * step, oct);
+            return;
+        }
+    }
+    for (Qsp64s t = 0; t < batches; ++t) ownsFillTwiddleRun<T>(tw + t * rows, rows, 0, t * kLargeBatch * step, oct);
     tw += batches * rows;
     for (Qsp64s b = 0; b < rows; ++b) ownsFillTwiddleRun<T>(tw + b * kLargeBatch, kLargeBatch, 0, b * step, oct);
 }
@@ -800,6 +856,50 @@ struct SplitSource {
     C<T> operator()(Qsp64s i) const { return {re[i], im[i]}; }
 };
 
+// Step 1 of the large algorithm: row b of work (rows x cols) receives
+// x[b], x[b + rows], x[b + 2 rows], ... Tiles of 16 columns keep the 16
+// source rows being read in the first-level cache.
+constexpr Qsp64s kTransposeTile = 16;
+
+template <class T, class Src>
+void ownsLargeTranspose(Src src, C<T>* work, Qsp64s rows, Qsp64s cols)
+{
+    for (Qsp64s j0 = 0; j0 < cols; j0 += kTransposeTile)
+        for (Qsp64s b = 0; b < rows; ++b)
+            for (Qsp64s j = j0; j < j0 + kTransposeTile; ++j) work[b * cols + j] = src(j * rows + b);
+}
+
+// Interleaved source: whole registers. In single precision a register holds
+// x[j rows + b] and x[j rows + b + 1]; two of them (j, j + 1) are regrouped
+// into the pairs of rows b and b + 1.
+template <class T>
+void ownsLargeTranspose(InterleavedSource<T> src, C<T>* work, Qsp64s rows, Qsp64s cols)
+{
+    using K = CV<T>;
+    using V = typename K::V;
+    for (Qsp64s j0 = 0; j0 < cols; j0 += kTransposeTile) {
+        const C<T>* tile = src.p + j0 * rows;
+        if constexpr (K::per == 2) {
+            for (Qsp64s b = 0; b < rows; b += 2) {
+                const C<T>* in = tile + b;
+                C<T>* o0 = work + b * cols + j0;
+                C<T>* o1 = o0 + cols;
+                for (Qsp64s j = 0; j < kTransposeTile; j += 2, in += 2 * rows) {
+                    const auto a = K::load(in), c = K::load(in + rows);
+                    K::store(o0 + j, V::lowHalves(a, c));
+                    K::store(o1 + j, V::highHalves(a, c));
+                }
+            }
+        } else {
+            for (Qsp64s b = 0; b < rows; ++b) {
+                const C<T>* in = tile + b;
+                C<T>* o = work + b * cols + j0;
+                for (Qsp64s j = 0; j < kTransposeTile; ++j, in += rows) K::store(o + j, K::load(in));
+            }
+        }
+    }
+}
+
 // The large algorithm. work holds N values plus largeScratchCount(order).
 // src is read completely (into work) before anything else is written, so it
 // may share memory with rowScratch or out; out may be work or rowScratch.
@@ -820,10 +920,7 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     C<T>* scratchB = scratchA + (Qsp64s(kLargeBatch) << n1);
 
     // 1. Transpose: row b of the work buffer is x[b], x[b + B], x[b + 2B], ...
-    constexpr Qsp64s kTile = 16;
-    for (Qsp64s j0 = 0; j0 < cols; j0 += kTile)
-        for (Qsp64s b = 0; b < rows; ++b)
-            for (Qsp64s j = j0; j < j0 + kTile; ++j) work[b * cols + j] = src(j * rows + b);
+    ownsLargeTranspose<T>(src, work, rows, cols);
 
     // 2. Each row, with the scratch buffer's row as the second buffer; the
     //    first pass reads the work row and writes the other one.
@@ -841,12 +938,18 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     const Qsp64s batchN = Qsp64s(kLargeBatch) << n1;
     const auto f = V::splat(scale);
     for (Qsp64s k0 = 0; k0 < cols; k0 += kLargeBatch) {
-        const C<T>* start = starts + k0 / kLargeBatch;
-        const Qsp64s batches = cols / kLargeBatch;
+        const C<T>* start = starts + (k0 / kLargeBatch) * rows;
+        // The batch reads one short piece of every row, rows a whole row
+        // apart: each piece is a cache miss and on a page of its own. The
+        // pieces of the next batch are fetched while this one is worked on,
+        // and so are the destination pieces of the next batch.
+        const bool ahead = k0 + kLargeBatch < cols;
         for (Qsp64s b = 0; b < rows; ++b) {
             const C<T>* from = rowsInScratch ? at(rowScratch, b * cols + k0, half) : work + b * cols + k0;
+            if (ahead)
+                for (int l = 0; l < kLargeBatch; l += kLineValues<T>) simd::prefetch(from + kLargeBatch + l);
             const C<T>* g = within + b * kLargeBatch;
-            const auto w0 = K::splat(start + b * batches);
+            const auto w0 = K::splat(start + b);
             C<T>* to = scratchA + b * kLargeBatch;
             for (int kk = 0; kk < kLargeBatch; kk += K::per)
                 K::store(to + kk, K::template mul<Inv>(K::load(from + kk), K::template mul<false>(K::load(g + kk), w0)));
@@ -858,6 +961,8 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
         for (Qsp64s r = 0; r < rows; ++r) {
             const C<T>* from = scratchA + r * kLargeBatch;
             C<T>* to = at(out, k0 + r * cols, half);
+            if (ahead)
+                for (int l = 0; l < kLargeBatch; l += kLineValues<T>) simd::prefetch(to + kLargeBatch + l);
             for (int kk = 0; kk < kLargeBatch; kk += K::per) {
                 const auto v = K::load(from + kk);
                 K::store(to + kk, scaled ? V::mul(v, f) : v);

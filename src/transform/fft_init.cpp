@@ -1,5 +1,5 @@
 // FFTInit: builds an FFT record in the caller's block.
-#include "fft_record.h"
+#include "fft_transform.h"
 #include "qspcore.h"
 #include "qsp_validators.h"
 
@@ -60,6 +60,20 @@ Qsp8u* fillRealTable(fft::Record* rec, int order, const fft::Octant<T>& oct, Qsp
         for (Qsp64s h = 0; h < coarse; ++h) put(h, h << 10);
         for (Qsp64s l = 0; l < 1024; ++l) put(coarse + l, l);
         count = coarse + 1024;
+    } else if (!inverse) {
+        // v_k = -i W^k / 2, block-split from k = 1 (see forwardWholeTwiddle);
+        // the padding of the last block is 0.
+        T* f = &t->re;
+        constexpr Qsp64s L = fft::SV<T>::L;
+        const Qsp64s blocks = (n / 4 - 1 + L - 1) / L;
+        for (Qsp64s i = 0; i < 2 * L * blocks; ++i) f[i] = T(0);
+        for (Qsp64s k = 1; k < n / 4; ++k) {
+            const C<T> w = fft::twiddle(oct, k);
+            const Qsp64s at = fft::forwardWholeIndex<T>(k);
+            f[at] = w.im * T(0.5);
+            f[at + L] = -w.re * T(0.5);
+        }
+        count = blocks * L;
     } else {
         for (Qsp64s k = 0; k < n / 4; ++k) put(k, k);
         count = n / 4;

@@ -202,6 +202,27 @@ constexpr RealSmallTwiddles<T> makeRealSmallTwiddles()
 template <class T>
 inline constexpr RealSmallTwiddles<T> kRealSmall = makeRealSmallTwiddles<T>();
 
+// The whole forward recombination table (not coarse + fine) holds, for
+// k = 1 .. N/4 - 1, v_k = -i W_N^k / 2 = (Im W/2, -Re W/2), block-split in
+// blocks of L from k = 1, so that the vector loop reads its factors with
+// plain loads and needs no halving of its own: with A = Zk + conj Zm and
+// B = Zk - conj Zm, Xk = A/2 + v_k B. (Both scalings by 2 are exact, and
+// the products are those of the plain form, so the results are the same.)
+template <class T>
+inline Qsp64s forwardWholeIndex(Qsp64s k)
+{
+    constexpr Qsp64s L = SV<T>::L;
+    return ((k - 1) / L) * 2 * L + (k - 1) % L;  // float index of the real part
+}
+
+template <class T>
+inline C<T> forwardWholeTwiddle(const C<T>* table, Qsp64s k)
+{
+    constexpr Qsp64s L = SV<T>::L;
+    const T* f = &table->re + forwardWholeIndex<T>(k);
+    return {T(-2) * f[L], T(2) * f[0]};
+}
+
 // The recombination twiddle of bin k: W_N^k (forward) or conj(W_N^k)
 // (inverse), from the record's tables or, below order 5, the built-in ones.
 template <class T, bool Inv>
@@ -212,6 +233,7 @@ inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
         const C<T> w = kRealSmall<T>.w[k << (4 - order)];
         return Inv ? C<T>{w.re, -w.im} : w;
     }
+    if (!Inv && !rec->recombSplit) return forwardWholeTwiddle<T>(static_cast<const C<T>*>(rec->recomb), k);
     return recombTwiddle<T>(rec, static_cast<const C<T>*>(Inv ? rec->recombInv : rec->recomb), k, n);
 }
 
@@ -233,16 +255,16 @@ Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quart
         const X a = K::template load<true>(pk);
         X b = K::template load<true>(pm);
         b = {V::reverse(b.re), V::reverse(b.im)};
-        const X w = K::template load<true>(table + k);
         X r, m;
         if constexpr (!Inv) {
-            // E = (Zk + conj Zm)/2, O = -i (Zk - conj Zm)/2, Xk = E + W O, Xm = conj(E - W O)
+            // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm), Xk = E + F, Xm = conj(E - F)
+            const X v = K::template load<false>(reinterpret_cast<const C<T>*>(&table->re + forwardWholeIndex<T>(k)));
             const X e{V::mul(V::add(a.re, b.re), halfSplat), V::mul(V::sub(a.im, b.im), halfSplat)};
-            const X o{V::mul(V::add(a.im, b.im), halfSplat), V::mul(V::sub(b.re, a.re), halfSplat)};
-            const X wo = K::template mul<false>(o, w);
-            r = K::add(e, wo);
-            m = {V::sub(e.re, wo.re), V::sub(wo.im, e.im)};
+            const X f = K::template mul<false>(X{V::sub(a.re, b.re), V::add(a.im, b.im)}, v);
+            r = K::add(e, f);
+            m = {V::sub(e.re, f.re), V::sub(f.im, e.im)};
         } else {
+            const X w = K::template load<true>(table + k);
             // E = Xk + conj Xm, O = (Xk - conj Xm) w, Zk = E + i O, Zm = conj(E - i O)
             const X e{V::add(a.re, b.re), V::sub(a.im, b.im)};
             const X o = K::template mul<false>(X{V::sub(a.re, b.re), V::add(a.im, b.im)}, w);

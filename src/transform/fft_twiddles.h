@@ -106,21 +106,21 @@ void ownsFillTwiddleRun(Cplx<U>* out, Qsp64s count, Qsp64s e0, Qsp64s de, const 
         if (run > count - i) run = count - i;
         const Cplx<T>* t = o.table;
         const Qsp64s stride = o.stride;
-        // exp(+i theta) = i^q (c + i s), conjugated; mirror: c, s exchanged.
+        // exp(+i theta) = i^q (c + i s), conjugated, is (c, -s), (-s, -c),
+        // (-c, s), (s, c) for q = 0..3, with c, s exchanged in the mirrored
+        // half: one exchange decision and two signs for the whole run (a
+        // multiplication by -1 is exact and keeps the signs of zeros).
+        const bool swap = mirror != ((q & 1) != 0);
+        const T sr = (q == 1 || q == 2) ? T(-1) : T(1);
+        const T si = (q == 0 || q == 1) ? T(-1) : T(1);
         Qsp64s idx = mirror ? quarter - r : r;
-        const Qsp64s didx = mirror ? -de : de;
-        for (Qsp64s j = 0; j < run; ++j, idx += didx) {
-            const Cplx<T> v = t[idx * stride];
-            const T c = mirror ? v.im : v.re, s = mirror ? v.re : v.im;
-            Cplx<U> w;
-            switch (q) {
-            case 0: w = {U(c), U(-s)}; break;
-            case 1: w = {U(-s), U(-c)}; break;
-            case 2: w = {U(-c), U(s)}; break;
-            default: w = {U(s), U(c)}; break;
-            }
-            out[i + j] = w;
-        }
+        const Qsp64s didx = (mirror ? -de : de) * stride;
+        const Cplx<T>* src = t + idx * stride;
+        Cplx<U>* dst = out + i;
+        if (swap)
+            for (Qsp64s j = 0; j < run; ++j, src += didx) dst[j] = {U(sr * src->im), U(si * src->re)};
+        else
+            for (Qsp64s j = 0; j < run; ++j, src += didx) dst[j] = {U(sr * src->re), U(si * src->im)};
         i += run;
         e = (e + run * de) & (n - 1);
     }
