@@ -30,8 +30,6 @@ double magnitude(double x) { return __builtin_bit_cast(double, __builtin_bit_cas
 bool signBit(double x) { return (__builtin_bit_cast(Qsp64u, x) >> 63) != 0; }
 double withSign(double m, bool negative) { return negative ? -m : m; }
 
-// atan(t) for 0 <= t <= 1 as a value plus correction: the correction holds
-// the table's correction and the series, the value the table entry.
 // u - u^3/3 + u^5/5 - ... - u^15/15 + u^17/17, on a double or a register
 // of them, with the same operations in the same order.
 template <class Ops, class R>
@@ -49,6 +47,8 @@ struct ScalarOps {
     static double splat(double a) { return a; }
 };
 
+// atan(t) for 0 <= t <= 1 as a value plus correction: the correction holds
+// the table's correction and the series, the value the table entry.
 Split atanUnit(double t)
 {
     const int k = int(t * 8.0 + 0.5);
