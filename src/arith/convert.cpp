@@ -76,16 +76,15 @@ struct Bounds {
 // unless it overflows (and saturates) or falls below 2^-126 (and rounds
 // to 0), so the result is the one double precision gives, four lanes at a
 // time instead of two. Beyond that the product is formed in double.
-template <int M, class D>
+template <int M, bool Single, class D>
 void ownsConvert_32f16(const Qsp32f* pSrc, D* pDst, Qsp64s len, double k)
 {
     using VD = simd::Vec<double>;
     using VF = simd::Vec<float>;
-    const bool single = k >= 0x1p-126 && k <= 0x1p127;
     const VD::Reg kk = VD::splat(k), lo = VD::splat(double(Bounds<D>::lo)), hi = VD::splat(double(Bounds<D>::hi));
     const VF::Reg kf = VF::splat(float(k)), lof = VF::splat(float(Bounds<D>::lo)), hif = VF::splat(float(Bounds<D>::hi));
     auto four = [&](VF::Reg x) {
-        if (single) return rounding::toInt32<M, VF>(VF::mul(x, kf), lof, hif);
+        if constexpr (Single) return rounding::toInt32<M, VF>(VF::mul(x, kf), lof, hif);
         const __m128i a = rounding::toInt32<M>(VD::mul(VD::widenLow(x), kk), lo, hi);
         const __m128i b = rounding::toInt32<M>(VD::mul(VD::widenHigh(x), kk), lo, hi);
         return _mm_unpacklo_epi64(a, b);
@@ -118,7 +117,9 @@ QspStatus floatToInt(const S* pSrc, D* pDst, int len, QspRoundMode rndMode, int 
     return byMode(rndMode, [&](auto m) {
         constexpr int M = decltype(m)::value;
         if constexpr (std::is_same_v<S, Qsp32f> && sizeof(D) == 2) {
-            ownsConvert_32f16<M>(pSrc, pDst, len, rounding::scaleOf(scaleFactor));
+            const double k = rounding::scaleOf(scaleFactor);
+            if (k >= 0x1p-126 && k <= 0x1p127) ownsConvert_32f16<M, true>(pSrc, pDst, len, k);
+            else ownsConvert_32f16<M, false>(pSrc, pDst, len, k);
         } else {
             for (int i = 0; i < len; ++i) {
                 const double x = rounding::ldexp(double(pSrc[i]), -scaleFactor);

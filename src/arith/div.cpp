@@ -41,13 +41,15 @@ template <class C>
 QspStatus divComplex(const C* pSrc1, const C* pSrc2, C* pDst, int len)
 {
     if (QspStatus s = check::vectors(len, pSrc1, pSrc2, pDst)) return s;
-    if constexpr (sizeof(C) == 8)
-        return cdiv::quotients(pSrc1, pSrc2, pDst, len) ? qspStsWarnDivByZero : qspStsOk;
     bool zero = false;
-    for (int i = 0; i < len; ++i) {
-        const C a = pSrc1[i];
-        zero = zero || (a.re == 0 && a.im == 0);
-        pDst[i] = cdiv::quotient(a, pSrc2[i]);
+    if constexpr (sizeof(C) == 8) {
+        zero = cdiv::quotients(pSrc1, pSrc2, pDst, len);
+    } else {
+        for (int i = 0; i < len; ++i) {
+            const C a = pSrc1[i];
+            zero = zero || (a.re == 0 && a.im == 0);
+            pDst[i] = cdiv::quotient(a, pSrc2[i]);
+        }
     }
     return zero ? qspStsWarnDivByZero : qspStsOk;
 }
