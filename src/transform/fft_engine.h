@@ -900,13 +900,70 @@ void ownsLargeTranspose(InterleavedSource<T> src, C<T>* work, Qsp64s rows, Qsp64
     }
 }
 
+// Rows of the large algorithm transformed as they are gathered, when the
+// source lies apart from rowScratch: one source cache line holds the
+// elements of kLineValues<T> consecutive rows, so the rows are gathered that
+// many at a time into the front of work (each source line read once, the
+// rows written while they stay in the second-level cache), then transformed
+// into their place in rowScratch with the row behind them as the second
+// buffer. Against transposing the whole array first this saves writing the
+// transposed array out of the caches and reading it back.
+constexpr Qsp64s kGatherAhead = 16;  // source lines fetched this many columns ahead
+
+template <class T>
+void ownsGatherRows(InterleavedSource<T> src, C<T>* stage, Qsp64s b0, Qsp64s rows, Qsp64s cols)
+{
+    using K = CV<T>;
+    constexpr Qsp64s G = kLineValues<T>;
+    const C<T>* in = src.p + b0;
+    for (Qsp64s j = 0; j < cols; ++j, in += rows) {
+        if (j + kGatherAhead < cols) simd::prefetch(in + kGatherAhead * rows);
+        if constexpr (K::per == 2) {
+            // Two rows per register: its halves are stored apart, no shuffle.
+            for (Qsp64s g = 0; g < G; g += 2) {
+                const auto r = K::load(in + g);
+                _mm_storel_pi(reinterpret_cast<__m64*>(stage + g * cols + j), r);
+                _mm_storeh_pi(reinterpret_cast<__m64*>(stage + (g + 1) * cols + j), r);
+            }
+        } else {
+            for (Qsp64s g = 0; g < G; ++g) K::store(stage + g * cols + j, K::load(in + g));
+        }
+    }
+}
+
+template <class T>
+void ownsGatherRows(SplitSource<T> src, C<T>* stage, Qsp64s b0, Qsp64s rows, Qsp64s cols)
+{
+    constexpr Qsp64s G = kLineValues<T>;
+    for (Qsp64s j = 0; j < cols; ++j)
+        for (Qsp64s g = 0; g < G; ++g) stage[g * cols + j] = src(j * rows + b0 + g);
+}
+
+template <class T, bool Inv, class Src>
+void ownsLargeRowsGathered(Src src, Halves<C<T>> rowScratch, C<T>* work, int n1, int n2, const C<T>* rowTw)
+{
+    constexpr Qsp64s G = kLineValues<T>;
+    const Qsp64s rows = Qsp64s(1) << n1, cols = Qsp64s(1) << n2, half = (rows * cols) >> 1;
+    C<T>* second = work + G * cols;
+    for (Qsp64s b0 = 0; b0 < rows; b0 += G) {
+        ownsGatherRows<T>(src, work, b0, rows, cols);
+        for (Qsp64s g = 0; g < G; ++g) {
+            C<T>* w = work + g * cols;
+            ownsRunPasses<T, Inv>({w, w + cols / 2}, halvesOf(at(rowScratch, (b0 + g) * cols, half), cols),
+                                  halvesOf(second, cols), n2, 1, rowTw);
+        }
+    }
+}
+
 // The large algorithm. work holds N values plus largeScratchCount(order).
+// With srcApart (the source shares no memory with rowScratch) the rows are
+// gathered and transformed group by group (ownsLargeRowsGathered). Otherwise
 // src is read completely (into work) before anything else is written, so it
-// may share memory with rowScratch or out; out may be work or rowScratch.
+// may share memory with rowScratch or out. out may be work or rowScratch.
 // The rows of N/B values never straddle the halves of rowScratch or out.
 template <class T, bool Inv, class Src>
-void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work, int order, const C<T>* tw,
-                  bool scaled, T scale)
+void ownsFftLarge(Src src, bool srcApart, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work, int order,
+                  const C<T>* tw, bool scaled, T scale)
 {
     using K = CV<T>;
     using V = typename K::V;
@@ -919,17 +976,22 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     C<T>* scratchA = work + (Qsp64s(1) << order);
     C<T>* scratchB = scratchA + (Qsp64s(kLargeBatch) << n1);
 
-    // 1. Transpose: row b of the work buffer is x[b], x[b + B], x[b + 2B], ...
-    ownsLargeTranspose<T>(src, work, rows, cols);
-
-    // 2. Each row, with the scratch buffer's row as the second buffer; the
-    //    first pass reads the work row and writes the other one.
-    const bool rowsInScratch = (passCount<T>(n2) & 1) != 0;
-    for (Qsp64s b = 0; b < rows; ++b) {
-        C<T>* w = work + b * cols;
-        C<T>* d = at(rowScratch, b * cols, half);
-        ownsRunPasses<T, Inv>({w, w + cols / 2}, rowsInScratch ? halvesOf(d, cols) : halvesOf(w, cols),
-                              rowsInScratch ? halvesOf(w, cols) : halvesOf(d, cols), n2, 1, rowTw);
+    // 1 and 2. Row b receives x[b], x[b + B], x[b + 2B], ... and is
+    //    transformed. When the whole array is transposed first, each row
+    //    uses the scratch buffer's row as its second buffer; the first pass
+    //    reads the work row and writes the other one.
+    bool rowsInScratch = true;
+    if (srcApart) {
+        ownsLargeRowsGathered<T, Inv>(src, rowScratch, work, n1, n2, rowTw);
+    } else {
+        ownsLargeTranspose<T>(src, work, rows, cols);
+        rowsInScratch = (passCount<T>(n2) & 1) != 0;
+        for (Qsp64s b = 0; b < rows; ++b) {
+            C<T>* w = work + b * cols;
+            C<T>* d = at(rowScratch, b * cols, half);
+            ownsRunPasses<T, Inv>({w, w + cols / 2}, rowsInScratch ? halvesOf(d, cols) : halvesOf(w, cols),
+                                  rowsInScratch ? halvesOf(w, cols) : halvesOf(d, cols), n2, 1, rowTw);
+        }
     }
 
     // 3. Columns, kLargeBatch at a time: twiddle, B-point transforms of the
@@ -937,17 +999,21 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
     //    written, so out may hold the rows' results.
     const Qsp64s batchN = Qsp64s(kLargeBatch) << n1;
     const auto f = V::splat(scale);
+    // The batch reads one short piece of every row, rows a whole row apart:
+    // each piece is a cache miss and on a page of its own. Pieces are
+    // fetched this many rows ahead, into the next batch at the end of one.
+    const Qsp64s ahead = rows >= 64 ? 32 : 8;
+    auto rowPiece = [&](Qsp64s b, Qsp64s k) {
+        return rowsInScratch ? at(rowScratch, b * cols + k, half) : work + b * cols + k;
+    };
     for (Qsp64s k0 = 0; k0 < cols; k0 += kLargeBatch) {
         const C<T>* start = starts + (k0 / kLargeBatch) * rows;
-        // The batch reads one short piece of every row, rows a whole row
-        // apart: each piece is a cache miss and on a page of its own. The
-        // pieces of the next batch are fetched while this one is worked on,
-        // and so are the destination pieces of the next batch.
-        const bool ahead = k0 + kLargeBatch < cols;
         for (Qsp64s b = 0; b < rows; ++b) {
-            const C<T>* from = rowsInScratch ? at(rowScratch, b * cols + k0, half) : work + b * cols + k0;
-            if (ahead)
-                for (int l = 0; l < kLargeBatch; l += kLineValues<T>) simd::prefetch(from + kLargeBatch + l);
+            const Qsp64s next = b + ahead < rows ? k0 : k0 + kLargeBatch;
+            if (next < cols)
+                for (int l = 0; l < kLargeBatch; l += kLineValues<T>)
+                    simd::prefetch(rowPiece((b + ahead) & (rows - 1), next) + l);
+            const C<T>* from = rowPiece(b, k0);
             const C<T>* g = within + b * kLargeBatch;
             const auto w0 = K::splat(start + b);
             C<T>* to = scratchA + b * kLargeBatch;
@@ -961,7 +1027,7 @@ void ownsFftLarge(Src src, Halves<C<T>> rowScratch, Halves<C<T>> out, C<T>* work
         for (Qsp64s r = 0; r < rows; ++r) {
             const C<T>* from = scratchA + r * kLargeBatch;
             C<T>* to = at(out, k0 + r * cols, half);
-            if (ahead)
+            if (k0 + kLargeBatch < cols)
                 for (int l = 0; l < kLargeBatch; l += kLineValues<T>) simd::prefetch(to + kLargeBatch + l);
             for (int kk = 0; kk < kLargeBatch; kk += K::per) {
                 const auto v = K::load(from + kk);

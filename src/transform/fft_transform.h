@@ -66,6 +66,15 @@ inline void ownsScale(double* p, Qsp64s count, double f)
 
 // ---------------------------------------------------------------- complex
 
+// Whether n values at a and n values at b share no memory.
+template <class T>
+inline bool apart(const T* a, const T* b, Qsp64s n)
+{
+    const auto x = reinterpret_cast<Qsp64u>(a), y = reinterpret_cast<Qsp64u>(b);
+    const Qsp64u bytes = Qsp64u(n) * sizeof(T);
+    return x + bytes <= y || y + bytes <= x;
+}
+
 // One complex transform of 2^order values, src to dst (src may equal dst),
 // unscaled; work as the record's complex part needs it.
 template <class T, bool Inv>
@@ -77,8 +86,8 @@ void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* 
     else if (order < largeFrom(sizeof(T) == 8))
         ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
     else
-        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, halvesOf(dst, n), halvesOf(dst, n), work, order, tw,
-                             false, T(0));
+        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
+                             order, tw, false, T(0));
 }
 
 // The interleaved complex kinds.
@@ -101,8 +110,8 @@ void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
         if (scaled) ownsScale(&dst->re, 2 * n, f);
     } else {
         // The large kernel applies the factor as it stores.
-        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, halvesOf(dst, n), halvesOf(dst, n), work, order, tw,
-                             scaled, f);
+        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
+                             order, tw, scaled, f);
     }
 }
 
@@ -136,8 +145,10 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
         for (Qsp64s i = 0; i < n; ++i) work[i] = {srcRe[i], srcIm[i]};
         ownsFftMedium<T, Inv>({work, work + n / 2}, halvesOf(work, n), dstPair, order, tw);
     } else {
-        ownsFftLarge<T, Inv>(SplitSource<T>{srcRe, srcIm}, dstPair, halvesOf(work, n), work, order, tw, false,
-                             T(0));
+        const bool srcApart = apart(srcRe, dstRe, n) && apart(srcRe, dstIm, n) && apart(srcIm, dstRe, n) &&
+                              apart(srcIm, dstIm, n);
+        ownsFftLarge<T, Inv>(SplitSource<T>{srcRe, srcIm}, srcApart, dstPair, halvesOf(work, n), work, order, tw,
+                             false, T(0));
     }
     for (Qsp64s i = 0; i < n; ++i) {
         dstRe[i] = work[i].re;
