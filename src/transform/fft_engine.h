@@ -908,7 +908,10 @@ void ownsLargeTranspose(InterleavedSource<T> src, C<T>* work, Qsp64s rows, Qsp64
 // into their place in rowScratch with the row behind them as the second
 // buffer. Against transposing the whole array first this saves writing the
 // transposed array out of the caches and reading it back.
+// With 16 rows the source lines of a whole transposition tile are
+// contiguous and the plain transposition measured faster.
 constexpr Qsp64s kGatherAhead = 16;  // source lines fetched this many columns ahead
+constexpr Qsp64s kGatherRowsFrom = 64;
 
 template <class T>
 void ownsGatherRows(InterleavedSource<T> src, C<T>* stage, Qsp64s b0, Qsp64s rows, Qsp64s cols)
@@ -956,8 +959,9 @@ void ownsLargeRowsGathered(Src src, Halves<C<T>> rowScratch, C<T>* work, int n1,
 }
 
 // The large algorithm. work holds N values plus largeScratchCount(order).
-// With srcApart (the source shares no memory with rowScratch) the rows are
-// gathered and transformed group by group (ownsLargeRowsGathered). Otherwise
+// With srcApart (the source shares no memory with rowScratch) and many rows,
+// the rows are gathered and transformed group by group
+// (ownsLargeRowsGathered). Otherwise
 // src is read completely (into work) before anything else is written, so it
 // may share memory with rowScratch or out. out may be work or rowScratch.
 // The rows of N/B values never straddle the halves of rowScratch or out.
@@ -981,7 +985,7 @@ void ownsFftLarge(Src src, bool srcApart, Halves<C<T>> rowScratch, Halves<C<T>> 
     //    uses the scratch buffer's row as its second buffer; the first pass
     //    reads the work row and writes the other one.
     bool rowsInScratch = true;
-    if (srcApart) {
+    if (srcApart && rows >= kGatherRowsFrom) {
         ownsLargeRowsGathered<T, Inv>(src, rowScratch, work, n1, n2, rowTw);
     } else {
         ownsLargeTranspose<T>(src, work, rows, cols);
@@ -1001,8 +1005,9 @@ void ownsFftLarge(Src src, bool srcApart, Halves<C<T>> rowScratch, Halves<C<T>> 
     const auto f = V::splat(scale);
     // The batch reads one short piece of every row, rows a whole row apart:
     // each piece is a cache miss and on a page of its own. Pieces are
-    // fetched this many rows ahead, into the next batch at the end of one.
-    const Qsp64s ahead = rows >= 64 ? 32 : 8;
+    // fetched this many rows ahead, into the next batch at the end of one
+    // (with few rows: the same row's piece of the next batch).
+    const Qsp64s ahead = rows >= 64 ? 32 : rows;
     auto rowPiece = [&](Qsp64s b, Qsp64s k) {
         return rowsInScratch ? at(rowScratch, b * cols + k, half) : work + b * cols + k;
     };
