@@ -1177,8 +1177,11 @@ QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, 
  * signal of N values to its half spectrum in the packed layout named (Pack and
  * Perm hold N values, CCS N+2). Divided by N or sqrt(N) only as the record's
  * flag says. _I forms transform in place (for RToCCS the array holds N+2
- * values). Checks: null record, then the record's kind (qspStsBadRecord), then
- * the data pointers, then a null pBuffer while the record needs one.
+ * values), and so does a call whose source equals its destination, with the
+ * same results; otherwise source and destination must not overlap. Concurrent
+ * calls sharing a record each need their own pBuffer. Checks: null record,
+ * then the record's kind (qspStsBadRecord), then the data pointers, then a
+ * null pBuffer while the record needs one.
  */
 QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
