@@ -162,6 +162,19 @@ inline void butterfly4(typename SV<T>::X a, typename SV<T>::X b, typename SV<T>:
     }
 }
 
+// 4x4 transpose of single-precision registers (rows in, columns out) from
+// even/odd lane selections only: those run on both shuffle ports, where
+// the unpack and half-move instructions run on one.
+inline void transpose4(__m128& r0, __m128& r1, __m128& r2, __m128& r3)
+{
+    using V = simd::Vec<float>;
+    const __m128 a = V::evens(r0, r1), b = V::odds(r0, r1), c = V::evens(r2, r3), d = V::odds(r2, r3);
+    r0 = V::evens(a, c);
+    r1 = V::evens(b, d);
+    r2 = V::odds(a, c);
+    r3 = V::odds(b, d);
+}
+
 // Twiddle entries of one pass's array of m values (rounded up to whole
 // blocks).
 template <class T>
@@ -282,8 +295,8 @@ void ownsPass4First(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>* 
             // Block b holds y[4(p+b) + k], k = 0..3: column b of o[0..3].
             typename V::Reg r0 = o[0].re, r1 = o[1].re, r2 = o[2].re, r3 = o[3].re;
             typename V::Reg i0 = o[0].im, i1 = o[1].im, i2 = o[2].im, i3 = o[3].im;
-            _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
-            _MM_TRANSPOSE4_PS(i0, i1, i2, i3);
+            transpose4(r0, r1, r2, r3);
+            transpose4(i0, i1, i2, i3);
             K::template store<false>(out, X{r0, i0});
             K::template store<false>(out + 4, X{r1, i1});
             K::template store<false>(out + 8, X{r2, i2});
@@ -337,8 +350,8 @@ void ownsPass16First(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>*
             if constexpr (L == 4) {
                 typename V::Reg r0 = z[r][0].re, r1 = z[r][1].re, r2 = z[r][2].re, r3 = z[r][3].re;
                 typename V::Reg i0 = z[r][0].im, i1 = z[r][1].im, i2 = z[r][2].im, i3 = z[r][3].im;
-                _MM_TRANSPOSE4_PS(r0, r1, r2, r3);
-                _MM_TRANSPOSE4_PS(i0, i1, i2, i3);
+                transpose4(r0, r1, r2, r3);
+                transpose4(i0, i1, i2, i3);
                 K::template store<false>(out + 4 * r, X{r0, i0});
                 K::template store<false>(out + 16 + 4 * r, X{r1, i1});
                 K::template store<false>(out + 32 + 4 * r, X{r2, i2});
