@@ -3,6 +3,7 @@
 // transforms' recombination and packed layouts.
 #pragma once
 #include "fft_record.h"
+#include "fft_small.h"
 #include "mathfn/half.h"
 #include "qsp_validators.h"
 
