@@ -9,9 +9,8 @@ QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFT
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC32fc, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsComplexCall<float, false>(rec, reinterpret_cast<const C<float>*>(pSrc), reinterpret_cast<C<float>*>(pDst),
-                                       fft::workOf<C<float>>(rec, pBuffer));
-    return qspStsOk;
+    return fft::ownsComplexEntry<float, false>(rec, reinterpret_cast<const C<float>*>(pSrc),
+                                               reinterpret_cast<C<float>*>(pDst), pBuffer);
 }
 
 QspStatus qspsFFTFwd_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
@@ -23,9 +22,8 @@ QspStatus qspsFFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFT
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC64fc, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsComplexCall<double, false>(rec, reinterpret_cast<const C<double>*>(pSrc),
-                                        reinterpret_cast<C<double>*>(pDst), fft::workOf<C<double>>(rec, pBuffer));
-    return qspStsOk;
+    return fft::ownsComplexEntry<double, false>(rec, reinterpret_cast<const C<double>*>(pSrc),
+                                                reinterpret_cast<C<double>*>(pDst), pBuffer);
 }
 
 QspStatus qspsFFTFwd_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)

@@ -244,14 +244,34 @@ __attribute__((flatten)) void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
     }
 }
 
+// A kernel returns qspStsOk, so that an entry point can end in a jump to it.
 template <class T, bool Inv>
-using SmallKernel = void (*)(const C<T>*, C<T>*, T);
+using SmallKernel = QspStatus (*)(const C<T>*, C<T>*, T);
 
-// The six straight-line kernels indexed by order, without and with scaling.
-template <class T, bool Inv, bool Scaled>
-inline constexpr SmallKernel<T, Inv> kSmallKernels[6] = {
-    ownsFftSmall<T, Inv, 0, Scaled>, ownsFftSmall<T, Inv, 1, Scaled>, ownsFftSmall<T, Inv, 2, Scaled>,
-    ownsFftSmall<T, Inv, 3, Scaled>, ownsFftSmall<T, Inv, 4, Scaled>, ownsFftSmall<T, Inv, 5, Scaled>,
+template <class T, bool Inv, int Order, bool Scaled>
+QspStatus ownsFftSmallEntry(const C<T>* src, C<T>* dst, T f)
+{
+    ownsFftSmall<T, Inv, Order, Scaled>(src, dst, f);
+    return qspStsOk;
+}
+
+// The twelve straight-line kernels, at 2 * order + scaled.
+template <class T, bool Inv>
+inline constexpr SmallKernel<T, Inv> kSmallKernels[12] = {
+    ownsFftSmallEntry<T, Inv, 0, false>, ownsFftSmallEntry<T, Inv, 0, true>,
+    ownsFftSmallEntry<T, Inv, 1, false>, ownsFftSmallEntry<T, Inv, 1, true>,
+    ownsFftSmallEntry<T, Inv, 2, false>, ownsFftSmallEntry<T, Inv, 2, true>,
+    ownsFftSmallEntry<T, Inv, 3, false>, ownsFftSmallEntry<T, Inv, 3, true>,
+    ownsFftSmallEntry<T, Inv, 4, false>, ownsFftSmallEntry<T, Inv, 4, true>,
+    ownsFftSmallEntry<T, Inv, 5, false>, ownsFftSmallEntry<T, Inv, 5, true>,
 };
+
+// A small transform, src to dst (src may equal dst), scaled by f when
+// scaled is set.
+template <class T, bool Inv>
+inline QspStatus ownsSmall(int order, bool scaled, const C<T>* src, C<T>* dst, T f)
+{
+    return kSmallKernels<T, Inv>[2 * order + int(scaled)](src, dst, f);
+}
 
 }  // namespace fft

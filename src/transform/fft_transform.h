@@ -21,8 +21,8 @@ QspStatus checkCall(const void* spec, Kind kind, Qsp8u* work, const P*... data)
     if (spec == nullptr) return qspStsNullPtr;
     const Record* rec = static_cast<const Record*>(spec);
     if (rec->id != kind) return qspStsBadRecord;
-    if (((data == nullptr) || ...)) return qspStsNullPtr;
-    if (rec->workSize > 0 && work == nullptr) return qspStsNullPtr;
+    // One branch for the pointers: the tests are cheap and never fault.
+    if (((data == nullptr) | ...) | ((rec->workSize > 0) & (work == nullptr))) return qspStsNullPtr;
     return qspStsOk;
 }
 
@@ -74,7 +74,7 @@ void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* 
 {
     const Qsp64s n = Qsp64s(1) << order;
     if (order <= kSmallMax)
-        kSmallKernels<T, Inv, false>[order](src, dst, T(1));
+        ownsSmall<T, Inv>(order, false, src, dst, T(1));
     else if (order < largeFrom(sizeof(T) == 8))
         ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
     else
@@ -93,10 +93,7 @@ void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
     const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
     if (order <= kSmallMax) {
         // The straight-line kernels scale as they store.
-        if (scaled)
-            kSmallKernels<T, Inv, true>[order](src, dst, f);
-        else
-            kSmallKernels<T, Inv, false>[order](src, dst, T(1));
+        ownsSmall<T, Inv>(order, scaled, src, dst, f);
     } else if (order < largeFrom(sizeof(T) == 8)) {
         ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
         if (scaled) ownsScale(&dst->re, 2 * n, f);
@@ -105,6 +102,27 @@ void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
         ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, halvesOf(dst, n), halvesOf(dst, n), work, order, tw,
                              scaled, f);
     }
+}
+
+// The interleaved complex kinds from their entry points: the small orders
+// end in a jump to their kernel, everything else goes through
+// ownsComplexCall, kept out of line so that the small path needs no stack
+// frame.
+template <class T, bool Inv>
+__attribute__((noinline)) QspStatus ownsComplexCallOutOfLine(const Record* rec, const C<T>* src, C<T>* dst,
+                                                             C<T>* work)
+{
+    ownsComplexCall<T, Inv>(rec, src, dst, work);
+    return qspStsOk;
+}
+
+template <class T, bool Inv>
+inline QspStatus ownsComplexEntry(const Record* rec, const C<T>* src, C<T>* dst, Qsp8u* work)
+{
+    const int order = rec->order;
+    if (__builtin_expect(order <= kSmallMax, 1))
+        return ownsSmall<T, Inv>(order, normalises<Inv>(rec), src, dst, factorOf<T>(rec));
+    return ownsComplexCallOutOfLine<T, Inv>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
 // The split kinds: real parts and imaginary parts in separate arrays.
@@ -119,10 +137,7 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
     if (order <= kSmallMax) {
         C<T> buf[1 << kSmallMax];
         for (Qsp64s i = 0; i < n; ++i) buf[i] = {srcRe[i], srcIm[i]};
-        if (scaled)
-            kSmallKernels<T, Inv, true>[order](buf, buf, f);
-        else
-            kSmallKernels<T, Inv, false>[order](buf, buf, T(1));
+        ownsSmall<T, Inv>(order, scaled, buf, buf, f);
         for (Qsp64s i = 0; i < n; ++i) {
             dstRe[i] = buf[i].re;
             dstIm[i] = buf[i].im;
