@@ -71,8 +71,7 @@ QspStatus qspsFFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFT
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<float, fft::Packed::Pack>(rec, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -84,8 +83,7 @@ QspStatus qspsFFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFT
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<float, fft::Packed::Perm>(rec, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -97,8 +95,7 @@ QspStatus qspsFFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTS
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<float, fft::Packed::Ccs>(rec, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -110,8 +107,7 @@ QspStatus qspsFFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFT
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<double, fft::Packed::Pack>(rec, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -123,8 +119,7 @@ QspStatus qspsFFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFT
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<double, fft::Packed::Perm>(rec, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -136,8 +131,7 @@ QspStatus qspsFFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTS
 {
     if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
     const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<double, fft::Packed::Ccs>(rec, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)

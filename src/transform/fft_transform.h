@@ -197,19 +197,19 @@ inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s
     return {T(re), T(im)};
 }
 
-// W_16^k, k < 16: the recombination twiddles of the orders below 5, which
-// keep no tables (W_N^k = W_16^(16k/N)).
+// W_32^k, k < 32: the recombination twiddles of the straight-line orders
+// (W_N^k = W_32^(32k/N)); orders below 5 keep no tables.
 template <class T>
 struct RealSmallTwiddles {
-    C<T> w[16];
+    C<T> w[32];
 };
 
 template <class T>
 constexpr RealSmallTwiddles<T> makeRealSmallTwiddles()
 {
     RealSmallTwiddles<T> t{};
-    for (int k = 0; k < 16; ++k) {
-        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 16.0);
+    for (int k = 0; k < 32; ++k) {
+        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 32.0);
         t.w[k] = {T(sc.c), T(sc.s)};
     }
     return t;
@@ -240,13 +240,13 @@ inline C<T> forwardWholeTwiddle(const C<T>* table, Qsp64s k)
 }
 
 // The recombination twiddle of bin k: W_N^k (forward) or conj(W_N^k)
-// (inverse), from the record's tables or, below order 5, the built-in ones.
+// (inverse), from the record's tables or, up to order 5, the built-in ones.
 template <class T, bool Inv>
 inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 {
     const Qsp64s n = Qsp64s(1) << order;
-    if (order < 5) {
-        const C<T> w = kRealSmall<T>.w[k << (4 - order)];
+    if (order <= kSmallMax) {
+        const C<T> w = kRealSmall<T>.w[k << (kSmallMax - order)];
         return Inv ? C<T>{w.re, -w.im} : w;
     }
     if (!Inv && !rec->recombSplit) return forwardWholeTwiddle<T>(static_cast<const C<T>*>(rec->recomb), k);
@@ -356,7 +356,7 @@ void ownsRecombineInverse(const Record* rec, T* d, int order)
     z[quarter] = {T(2) * z[quarter].re, T(-2) * z[quarter].im};
 }
 
-// The recombination by order: orders 1..4 unrolled with built-in twiddles.
+// The recombination by order: orders 1..5 unrolled with built-in twiddles.
 template <class T, bool Inv>
 void ownsRecombine(const Record* rec, T* d, int order)
 {
@@ -372,6 +372,7 @@ void ownsRecombine(const Record* rec, T* d, int order)
     case 2: pick(std::integral_constant<int, 2>{}); return;
     case 3: pick(std::integral_constant<int, 3>{}); return;
     case 4: pick(std::integral_constant<int, 4>{}); return;
+    case 5: pick(std::integral_constant<int, 5>{}); return;
     default:
         if constexpr (Inv)
             ownsRecombineInverse<T>(rec, d, order);
@@ -404,6 +405,65 @@ void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
         }
         dst[1] = T(0);
     }
+}
+
+// The real forward transforms of orders 0..5, one straight-line function
+// per order, layout and scaling: the half-length complex kernel (scaling as
+// it stores), the recombination with built-in twiddles and the layout.
+template <class T, Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallForward(const T* src, T* dst, T f)
+{
+    constexpr Qsp64s n = Qsp64s(1) << Order;
+    if constexpr (Order == 0) {
+        dst[0] = Scaled ? src[0] * f : src[0];
+    } else {
+        ownsFftSmall<T, false, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), f);
+        ownsRecombineForward<T, Order>(nullptr, dst, Order);
+    }
+    if constexpr (Layout == Packed::Pack && n >= 4) {
+        const T nyquist = dst[1];
+        for (Qsp64s i = 1; i < n - 1; ++i) dst[i] = dst[i + 1];
+        dst[n - 1] = nyquist;
+    } else if constexpr (Layout == Packed::Ccs) {
+        if constexpr (n >= 2) {
+            dst[n] = dst[1];
+            dst[n + 1] = T(0);
+        }
+        dst[1] = T(0);
+    }
+    return qspStsOk;
+}
+
+template <class T>
+using RealSmallKernel = QspStatus (*)(const T*, T*, T);
+
+// At 2 * order + scaled.
+template <class T, Packed Layout>
+inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
+    ownsRealSmallForward<T, Layout, 0, false>, ownsRealSmallForward<T, Layout, 0, true>,
+    ownsRealSmallForward<T, Layout, 1, false>, ownsRealSmallForward<T, Layout, 1, true>,
+    ownsRealSmallForward<T, Layout, 2, false>, ownsRealSmallForward<T, Layout, 2, true>,
+    ownsRealSmallForward<T, Layout, 3, false>, ownsRealSmallForward<T, Layout, 3, true>,
+    ownsRealSmallForward<T, Layout, 4, false>, ownsRealSmallForward<T, Layout, 4, true>,
+    ownsRealSmallForward<T, Layout, 5, false>, ownsRealSmallForward<T, Layout, 5, true>,
+};
+
+template <class T, Packed Layout>
+__attribute__((noinline)) QspStatus ownsRealForwardOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
+{
+    ownsRealForwardCall<T>(rec, src, dst, work, Layout);
+    return qspStsOk;
+}
+
+// The real forward kinds from their entry points: the small orders end in a
+// jump to their kernel.
+template <class T, Packed Layout>
+inline QspStatus ownsRealForwardEntry(const Record* rec, const T* src, T* dst, Qsp8u* work)
+{
+    const int order = rec->order;
+    if (__builtin_expect(order <= kSmallMax, 1))
+        return kRealSmallForward<T, Layout>[2 * order + int(rec->forwardNormalise != 0)](src, dst, factorOf<T>(rec));
+    return ownsRealForwardOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
 template <class T>
