@@ -7,49 +7,18 @@ namespace fft {
 
 // ---------------------------------------------------------------- small
 
-// The straight-line kernels, orders 0..5. Orders 0..3 are written out on
-// scalars; orders 4 and 5 run the radix-4 passes on registers with a
-// built-in twiddle table and a buffer on the stack. Scaled variants multiply
-// by the factor as they store.
-
-// Pass twiddles of a 2^Order-point transform, block-split, computed by the
-// compiler from the library's sine and cosine.
-template <class T, int Order>
-struct SmallPassTwiddles {
-    C<T> w[3 * (1 << Order)];
-};
-
-template <class T, int Order>
-constexpr SmallPassTwiddles<T, Order> makeSmallPassTwiddles()
-{
-    SmallPassTwiddles<T, Order> t{};
-    constexpr Qsp64s L = simd::Vec<T>::lanes;
-    Qsp64s at = 0;
-    for (Qsp64s cur = Qsp64s(1) << Order; cur >= 8; cur >>= 2) {
-        const Qsp64s m = cur >> 2, mp = (m + L - 1) / L * L;
-        // The float at flat position i of an array of pairs is part i % 2
-        // of element i / 2.
-        auto put = [&](Qsp64s base, Qsp64s i, T v) {
-            C<T>& e = t.w[base + i / 2];
-            (i % 2 ? e.im : e.re) = v;
-        };
-        for (int j = 1; j <= 3; ++j) {
-            const Qsp64s base = at + (j - 1) * mp;
-            for (Qsp64s p = 0; p < mp; ++p) {
-                // exp(-2 pi i j p / cur) = (cos, sin) of pi * (-2 j p / cur)
-                const mathfn::SinCosExt sc = p < m ? mathfn::sinCosPiExt(-2.0 * double(j * p) / double(cur))
-                                                   : mathfn::SinCosExt{0.0L, 1.0L};
-                put(base, (p / L) * 2 * L + p % L, T(sc.c));
-                put(base, (p / L) * 2 * L + p % L + L, T(sc.s));
-            }
-        }
-        at += 3 * mp;
-    }
-    return t;
-}
-
-template <class T, int Order>
-inline constexpr SmallPassTwiddles<T, Order> kSmallPass = makeSmallPassTwiddles<T, Order>();
+// The straight-line kernels, orders 0..5, everything in registers with the
+// twiddles as constants; no tables, no buffer. Scaled variants multiply by
+// the factor as they store.
+//  - Double precision: one complex value per register; the DFT is written
+//    out on those values (smallDft).
+//  - Single precision, orders 0..2: scalar pairs, written out the same way.
+//  - Single precision, orders 3..5 (N = 2M): a register holds x[2j] and
+//    x[2j+1] as loaded, so the same M-point DFT run on the registers
+//    transforms the even samples in the low half and the odd samples in the
+//    high half at once. Pairs of results are then regrouped (a_k, a_k+1),
+//    (b_k, b_k+1), the odd half twiddled by W_N^k, W_N^(k+1), and
+//    X[k] = a + W b, X[k+M] = a - W b written two at a time.
 
 // W_32^k, k < 32, for the written-out kernels.
 template <class T>
@@ -71,10 +40,14 @@ constexpr SmallW<T> makeSmallW()
 template <class T>
 inline constexpr SmallW<T> kSmallW = makeSmallW<T>();
 
-// Values of the written-out kernels: scalar pairs in single precision, one
-// register per complex value in double precision.
+// Values of the written-out kernels: scalar pairs, or registers of one
+// (double) or two (float) complex values. Every operation acts on each
+// complex value of a register alike.
 struct CD {
     __m128d v;
+};
+struct CF2 {
+    __m128 v;
 };
 
 template <class T>
@@ -95,152 +68,146 @@ struct SmallOps {
         const T wi = Inv ? -w.im : w.im;
         return {v.re * w.re - v.im * wi, v.re * wi + v.im * w.re};
     }
-    // v * exp(-+ i pi/4) and v * exp(-+ 3 i pi/4), times sqrt 2.
-    template <bool Inv>
-    static Value eighth(Value v) { return Inv ? Value{v.re - v.im, v.re + v.im} : Value{v.re + v.im, v.im - v.re}; }
-    template <bool Inv>
-    static Value threeEighths(Value v)
-    {
-        return Inv ? Value{-(v.re + v.im), v.re - v.im} : Value{v.im - v.re, -(v.re + v.im)};
-    }
 };
 
-template <>
-struct SmallOps<double> {
-    using V = simd::Vec<double>;
-    using Value = CD;
-    static Value load(const C<double>* p) { return {V::loadu(&p->re)}; }
-    static void store(C<double>* p, Value v) { V::storeu(&p->re, v.v); }
+// Registers of complex values (V = simd::Vec<double> or <float>).
+template <class V, class Wrap, class T>
+struct SmallRegOps {
+    using Value = Wrap;
+    static Value load(const C<T>* p) { return {V::loadu(&p->re)}; }
+    static void store(C<T>* p, Value v) { V::storeu(&p->re, v.v); }
     static Value add(Value a, Value b) { return {V::add(a.v, b.v)}; }
     static Value sub(Value a, Value b) { return {V::sub(a.v, b.v)}; }
-    static Value scale(Value v, double f) { return {V::mul(v.v, V::splat(f))}; }
+    static Value scale(Value v, T f) { return {V::mul(v.v, V::splat(f))}; }
     template <bool Inv>
     static Value rot(Value v)
     {
         return {Inv ? V::negEven(V::swapParts(v.v)) : V::negOdd(V::swapParts(v.v))};
     }
     template <bool Inv>
-    static Value mulConst(Value v, C<double> w)
+    static Value mulConst(Value v, C<T> w)
     {
         // (re wr - im wi, im wr + re wi) as addsub(v wr, swap(v) wi)
         return {V::addsub(V::mul(v.v, V::splat(w.re)), V::mul(V::swapParts(v.v), V::splat(Inv ? -w.im : w.im)))};
     }
-    template <bool Inv>
-    static Value eighth(Value v)
-    {
-        // addsub(swap v, v) = (im - re, re + im); addsub(v, swap v) = (re - im, im + re)
-        return {Inv ? V::addsub(v.v, V::swapParts(v.v)) : V::swapParts(V::addsub(V::swapParts(v.v), v.v))};
-    }
-    template <bool Inv>
-    static Value threeEighths(Value v)
-    {
-        return {Inv ? V::negEven(V::swapParts(V::addsub(v.v, V::swapParts(v.v))))
-                    : V::negOdd(V::addsub(V::swapParts(v.v), v.v))};
-    }
 };
 
-// Everything called here is inlined (flatten), so that the passes of
-// orders 4 and 5 unroll for their fixed length.
+template <>
+struct SmallOps<double> : SmallRegOps<simd::Vec<double>, CD, double> {};
+
+// Two single-precision complex values per register.
+using SmallOpsPair = SmallRegOps<simd::Vec<float>, CF2, float>;
+
+// v * exp(-+ i pi/4) and v * exp(-+ 3 i pi/4), times sqrt 2: v + rot(v) and
+// rot(v) - v, i.e. (re + im, im - re) and (im - re, -re - im) forward.
+template <class O, bool Inv>
+inline typename O::Value eighth(typename O::Value v)
+{
+    return O::add(v, O::template rot<Inv>(v));
+}
+template <class O, bool Inv>
+inline typename O::Value threeEighths(typename O::Value v)
+{
+    return O::sub(O::template rot<Inv>(v), v);
+}
+
+// The M-point DFT (M = 1..32) of the values in(0..M-1), written out; out(k, v)
+// receives output k. Every input is read before the first output is given.
+template <class O, class T, bool Inv, int M, class In, class Out>
+inline void smallDft(In in, Out out)
+{
+    using Val = typename O::Value;
+    constexpr T h = T(0.707106781186547524400844362104849039L);
+    auto scaleH = [](Val v) { return O::scale(v, h); };
+    if constexpr (M == 1) {
+        out(0, in(0));
+    } else if constexpr (M == 2) {
+        const Val a = in(0), b = in(1);
+        out(0, O::add(a, b));
+        out(1, O::sub(a, b));
+    } else if constexpr (M == 4) {
+        const Val x0 = in(0), x1 = in(1), x2 = in(2), x3 = in(3);
+        const Val apc = O::add(x0, x2), amc = O::sub(x0, x2);
+        const Val bpd = O::add(x1, x3), jbd = O::template rot<Inv>(O::sub(x1, x3));
+        out(0, O::add(apc, bpd));
+        out(1, O::add(amc, jbd));
+        out(2, O::sub(apc, bpd));
+        out(3, O::sub(amc, jbd));
+    } else if constexpr (M == 8) {
+        // Two 4-point transforms (even and odd samples) and the 8-point
+        // twiddles (1 -+ i)/sqrt 2, -+i, (-1 -+ i)/sqrt 2.
+        Val e[4], o[4];
+        smallDft<O, T, Inv, 4>([&](int p) { return in(2 * p); }, [&](int k, Val v) { e[k] = v; });
+        smallDft<O, T, Inv, 4>([&](int p) { return in(2 * p + 1); }, [&](int k, Val v) { o[k] = v; });
+        const Val t[4] = {o[0], scaleH(eighth<O, Inv>(o[1])), O::template rot<Inv>(o[2]),
+                          scaleH(threeEighths<O, Inv>(o[3]))};
+        #pragma GCC unroll 16
+        for (int k = 0; k < 4; ++k) {
+            out(k, O::add(e[k], t[k]));
+            out(k + 4, O::sub(e[k], t[k]));
+        }
+    } else {
+        // A radix-4 level with the twiddles W_M^(kp) as constants, then
+        // 4- or 8-point transforms of the columns.
+        constexpr int m = M / 4;
+        Val y[M];
+        #pragma GCC unroll 16
+        for (int p = 0; p < m; ++p)
+            smallDft<O, T, Inv, 4>([&](int j) { return in(p + j * m); }, [&](int k, Val v) {
+                const int e = k * p * (32 / M);
+                if (e == 0)
+                    y[4 * p + k] = v;
+                else if (e == 8)
+                    y[4 * p + k] = O::template rot<Inv>(v);
+                else if (e == 4)
+                    y[4 * p + k] = scaleH(eighth<O, Inv>(v));
+                else if (e == 12)
+                    y[4 * p + k] = scaleH(threeEighths<O, Inv>(v));
+                else
+                    y[4 * p + k] = O::template mulConst<Inv>(v, kSmallW<T>.w[e & 31]);
+            });
+        // Column k holds y[4p + k], p < m; its output r is X[k + 4r].
+        #pragma GCC unroll 16
+        for (int k = 0; k < 4; ++k)
+            smallDft<O, T, Inv, m>([&](int p) { return y[4 * p + k]; }, [&](int r, Val v) { out(k + 4 * r, v); });
+    }
+}
+
+// Everything called here is inlined (flatten), so that every kernel is one
+// straight run of register code.
 template <class T, bool Inv, int Order, bool Scaled>
 __attribute__((flatten)) void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
 {
-    using O = SmallOps<T>;
-    using Val = typename O::Value;
-    auto put = [&](int k, Val v) { O::store(dst + k, Scaled ? O::scale(v, f) : v); };
-    if constexpr (Order == 0) {
-        put(0, O::load(src));
-    } else if constexpr (Order == 1) {
-        const Val a = O::load(src), b = O::load(src + 1);
-        put(0, O::add(a, b));
-        put(1, O::sub(a, b));
-    } else if constexpr (Order == 2) {
-        const Val x0 = O::load(src), x1 = O::load(src + 1), x2 = O::load(src + 2), x3 = O::load(src + 3);
-        const Val apc = O::add(x0, x2), amc = O::sub(x0, x2);
-        const Val bpd = O::add(x1, x3), jbd = O::template rot<Inv>(O::sub(x1, x3));
-        put(0, O::add(apc, bpd));
-        put(1, O::add(amc, jbd));
-        put(2, O::sub(apc, bpd));
-        put(3, O::sub(amc, jbd));
-    } else if constexpr (Order == 3) {
-        // Two 4-point transforms (even and odd samples) and the 8-point
-        // twiddles (1 -+ i)/sqrt 2, -+i, (-1 -+ i)/sqrt 2.
-        constexpr T h = T(0.707106781186547524400844362104849039L);
-        Val e[4], o[4];
-        for (int par = 0; par < 2; ++par) {
-            const Val x0 = O::load(src + par), x1 = O::load(src + par + 2), x2 = O::load(src + par + 4),
-                      x3 = O::load(src + par + 6);
-            const Val apc = O::add(x0, x2), amc = O::sub(x0, x2), bpd = O::add(x1, x3);
-            const Val jbd = O::template rot<Inv>(O::sub(x1, x3));
-            Val* r = par ? o : e;
-            r[0] = O::add(apc, bpd);
-            r[1] = O::add(amc, jbd);
-            r[2] = O::sub(apc, bpd);
-            r[3] = O::sub(amc, jbd);
-        }
-        const Val t[4] = {o[0], O::scale(O::template eighth<Inv>(o[1]), h), O::template rot<Inv>(o[2]),
-                          O::scale(O::template threeEighths<Inv>(o[3]), h)};
-        for (int k = 0; k < 4; ++k) {
-            put(k, O::add(e[k], t[k]));
-            put(k + 4, O::sub(e[k], t[k]));
-        }
-    } else if constexpr (sizeof(T) == 8) {
-        // A radix-4 level with the twiddles W_n^(kp) as constants, then
-        // 4- or 8-point transforms of the columns, all in registers.
-        constexpr int n = 1 << Order, m = n / 4;
-        Val y[n];
-        for (int p = 0; p < m; ++p) {
-            const Val x0 = O::load(src + p), x1 = O::load(src + p + m), x2 = O::load(src + p + 2 * m),
-                      x3 = O::load(src + p + 3 * m);
-            const Val apc = O::add(x0, x2), amc = O::sub(x0, x2), bpd = O::add(x1, x3);
-            const Val jbd = O::template rot<Inv>(O::sub(x1, x3));
-            const Val r[4] = {O::add(apc, bpd), O::add(amc, jbd), O::sub(apc, bpd), O::sub(amc, jbd)};
-            for (int k = 0; k < 4; ++k)
-                y[4 * p + k] = k * p == 0 ? r[k] : O::template mulConst<Inv>(r[k], kSmallW<T>.w[(k * p * (32 / n)) & 31]);
-        }
-        constexpr T h = T(0.707106781186547524400844362104849039L);
-        for (int k = 0; k < 4; ++k) {
-            if constexpr (m == 4) {
-                const Val apc = O::add(y[k], y[8 + k]), amc = O::sub(y[k], y[8 + k]), bpd = O::add(y[4 + k], y[12 + k]);
-                const Val jbd = O::template rot<Inv>(O::sub(y[4 + k], y[12 + k]));
-                put(k, O::add(apc, bpd));
-                put(k + 4, O::add(amc, jbd));
-                put(k + 8, O::sub(apc, bpd));
-                put(k + 12, O::sub(amc, jbd));
-            } else {
-                // 8 points y[4p + k], p = 0..7: radix 2, eighth turns, two 4-point transforms.
-                Val a[4], b[4];
-                for (int j = 0; j < 4; ++j) {
-                    a[j] = O::add(y[4 * j + k], y[4 * (j + 4) + k]);
-                    b[j] = O::sub(y[4 * j + k], y[4 * (j + 4) + k]);
-                }
-                b[1] = O::scale(O::template eighth<Inv>(b[1]), h);
-                b[2] = O::template rot<Inv>(b[2]);
-                b[3] = O::scale(O::template threeEighths<Inv>(b[3]), h);
-                for (int par = 0; par < 2; ++par) {
-                    const Val* q = par ? b : a;
-                    const Val apc = O::add(q[0], q[2]), amc = O::sub(q[0], q[2]), bpd = O::add(q[1], q[3]);
-                    const Val jbd = O::template rot<Inv>(O::sub(q[1], q[3]));
-                    // X[k + 4(2r + par)]
-                    put(k + 4 * par, O::add(apc, bpd));
-                    put(k + 4 * (2 + par), O::add(amc, jbd));
-                    put(k + 4 * (4 + par), O::sub(apc, bpd));
-                    put(k + 4 * (6 + par), O::sub(amc, jbd));
-                }
-            }
-        }
+    constexpr int n = 1 << Order;
+    if constexpr (sizeof(T) == 8 || Order <= 2) {
+        using O = SmallOps<T>;
+        using Val = typename O::Value;
+        smallDft<O, T, Inv, n>([&](int p) { return O::load(src + p); },
+                               [&](int k, Val v) { O::store(dst + k, Scaled ? O::scale(v, f) : v); });
     } else {
-        // Single precision, 16 and 32 points: the first radix-4 pass into a
-        // buffer on the stack, then the last radix-4 or radix-8 pass into the
-        // destination (so src may be dst).
-        constexpr Qsp64s n = Qsp64s(1) << Order;
-        alignas(16) C<T> buf[n];
-        ownsPass4First<T, Inv, true>({src, src + n / 2}, halvesOf(buf, n), n, kSmallPass<T, Order>.w);
-        if constexpr (Order == 4)
-            ownsPass4Last<T, Inv, false, true>({buf, buf + n / 2}, halvesOf(dst, n), n);
-        else
-            ownsPass8Last<T, Inv, false, true>({buf, buf + n / 2}, halvesOf(dst, n), n);
-        if constexpr (Scaled)
-            for (Qsp64s i = 0; i < n; ++i) O::store(dst + i, O::scale(O::load(dst + i), f));
+        using O = SmallOpsPair;
+        using Val = O::Value;
+        using V = simd::Vec<float>;
+        constexpr int m = n / 2;
+        Val y[m];
+        smallDft<O, T, Inv, m>([&](int p) { return O::load(src + 2 * p); }, [&](int k, Val v) { y[k] = v; });
+        #pragma GCC unroll 16
+        for (int k = 0; k < m; k += 2) {
+            const __m128 a = V::lowHalves(y[k].v, y[k + 1].v), b = V::highHalves(y[k].v, y[k + 1].v);
+            // b * (W^k, W^(k+1)), conjugated for the inverse
+            const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
+            const float s = Inv ? -1.0f : 1.0f;
+            const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
+            const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
+            const __m128 wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
+            __m128 lo = V::add(a, wb), hi = V::sub(a, wb);
+            if constexpr (Scaled) {
+                lo = V::mul(lo, V::splat(f));
+                hi = V::mul(hi, V::splat(f));
+            }
+            V::storeu(&dst[k].re, lo);
+            V::storeu(&dst[k + m].re, hi);
+        }
     }
 }
 
@@ -249,7 +216,7 @@ template <class T, bool Inv>
 using SmallKernel = QspStatus (*)(const C<T>*, C<T>*, T);
 
 template <class T, bool Inv, int Order, bool Scaled>
-QspStatus ownsFftSmallEntry(const C<T>* src, C<T>* dst, T f)
+__attribute__((flatten)) QspStatus ownsFftSmallEntry(const C<T>* src, C<T>* dst, T f)
 {
     ownsFftSmall<T, Inv, Order, Scaled>(src, dst, f);
     return qspStsOk;
