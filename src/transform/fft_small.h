@@ -173,6 +173,32 @@ inline void smallDft(In in, Out out)
     }
 }
 
+// Single precision, N = 2^Order >= 8 points from src as register pairs:
+// put(k, v) receives X[k], X[k+1] for every even k < N, unscaled. Every
+// input is read before the first put.
+template <bool Inv, int Order, class Put>
+inline void ownsFftPairs(const C<float>* src, Put put)
+{
+    using O = SmallOpsPair;
+    using Val = O::Value;
+    using V = simd::Vec<float>;
+    constexpr int n = 1 << Order, m = n / 2;
+    Val y[m];
+    smallDft<O, float, Inv, m>([&](int p) { return O::load(src + 2 * p); }, [&](int k, Val v) { y[k] = v; });
+#pragma GCC unroll 16
+    for (int k = 0; k < m; k += 2) {
+        const __m128 a = V::lowHalves(y[k].v, y[k + 1].v), b = V::highHalves(y[k].v, y[k + 1].v);
+        // b * (W^k, W^(k+1)), conjugated for the inverse
+        const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
+        const float s = Inv ? -1.0f : 1.0f;
+        const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
+        const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
+        const __m128 wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
+        put(k, V::add(a, wb));
+        put(k + m, V::sub(a, wb));
+    }
+}
+
 // Everything called here is inlined (flatten), so that every kernel is one
 // straight run of register code.
 template <class T, bool Inv, int Order, bool Scaled>
@@ -185,29 +211,8 @@ __attribute__((flatten)) void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
         smallDft<O, T, Inv, n>([&](int p) { return O::load(src + p); },
                                [&](int k, Val v) { O::store(dst + k, Scaled ? O::scale(v, f) : v); });
     } else {
-        using O = SmallOpsPair;
-        using Val = O::Value;
         using V = simd::Vec<float>;
-        constexpr int m = n / 2;
-        Val y[m];
-        smallDft<O, T, Inv, m>([&](int p) { return O::load(src + 2 * p); }, [&](int k, Val v) { y[k] = v; });
-        #pragma GCC unroll 16
-        for (int k = 0; k < m; k += 2) {
-            const __m128 a = V::lowHalves(y[k].v, y[k + 1].v), b = V::highHalves(y[k].v, y[k + 1].v);
-            // b * (W^k, W^(k+1)), conjugated for the inverse
-            const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
-            const float s = Inv ? -1.0f : 1.0f;
-            const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
-            const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
-            const __m128 wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
-            __m128 lo = V::add(a, wb), hi = V::sub(a, wb);
-            if constexpr (Scaled) {
-                lo = V::mul(lo, V::splat(f));
-                hi = V::mul(hi, V::splat(f));
-            }
-            V::storeu(&dst[k].re, lo);
-            V::storeu(&dst[k + m].re, hi);
-        }
+        ownsFftPairs<Inv, Order>(src, [&](int k, __m128 v) { V::storeu(&dst[k].re, Scaled ? V::mul(v, V::splat(f)) : v); });
     }
 }
 

@@ -434,18 +434,78 @@ __attribute__((flatten)) QspStatus ownsRealSmallForward(const T* src, T* dst, T 
     return qspStsOk;
 }
 
+// Real single precision, orders 4 and 5: the half-length transform Z stays in
+// registers as pairs (Z[2j], Z[2j+1]) and is recombined there, bins k, k+1
+// together with their mirrors N/2-k, N/2-k-1. The spectrum is written in
+// CCS layout, to dst or, for the other layouts, to a buffer first.
+template <Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, float* dst, float f)
+{
+    using V = simd::Vec<float>;
+    constexpr int n = 1 << Order, half = n / 2;
+    __m128 z[half / 2 + 1];
+    ownsFftPairs<false, Order - 1>(reinterpret_cast<const C<float>*>(src),
+                                   [&](int k, __m128 v) { z[k / 2] = Scaled ? V::mul(v, V::splat(f)) : v; });
+    z[half / 2] = z[0];  // Z[N/2] = Z[0]
+    alignas(16) float buf[Layout == Packed::Ccs ? 1 : n + 2];
+    float* out = Layout == Packed::Ccs ? dst : buf;
+    const __m128 conj = V::negOdd(V::zero()), halfSplat = V::splat(0.5f);
+#pragma GCC unroll 8
+    for (int k = 0; k < half / 2; k += 2) {
+        const __m128 a = z[k / 2];  // Z[k], Z[k+1]
+        // Z[N/2-k], Z[N/2-k-1]
+        const __m128 b = _mm_shuffle_ps(z[(half - k) / 2], z[(half - k) / 2 - 1], _MM_SHUFFLE(3, 2, 1, 0));
+        const __m128 cb = V::bitXor(b, conj);
+        // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm) with v_k = -i W_N^k / 2
+        const __m128 e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
+        const C<float> w0 = kRealSmall<float>.w[k << (kSmallMax - Order)];
+        const C<float> w1 = kRealSmall<float>.w[(k + 1) << (kSmallMax - Order)];
+        const __m128 vr = _mm_setr_ps(w0.im / 2, w0.im / 2, w1.im / 2, w1.im / 2);
+        const __m128 vi = _mm_setr_ps(-w0.re / 2, -w0.re / 2, -w1.re / 2, -w1.re / 2);
+        const __m128 fv = V::addsub(V::mul(d, vr), V::mul(V::swapParts(d), vi));
+        // X[k], X[k+1] = E + F; X[N/2-k], X[N/2-k-1] = conj(E - F)
+        V::storeu(out + 2 * k, V::add(e, fv));
+        const __m128 m = V::bitXor(V::sub(e, fv), conj);
+        V::storeu(out + 2 * (half - k - 1), _mm_shuffle_ps(m, m, _MM_SHUFFLE(1, 0, 3, 2)));
+    }
+    // X[N/4] = conj Z[N/4]; bins 0 and N/2 from Z[0] = (a, b): a + b and a - b.
+    _mm_storel_pi(reinterpret_cast<__m64*>(out + half), V::bitXor(z[half / 4], conj));
+    const float a = _mm_cvtss_f32(z[0]), b = _mm_cvtss_f32(_mm_shuffle_ps(z[0], z[0], 1));
+    out[0] = a + b;
+    out[1] = 0.0f;
+    out[n] = a - b;
+    out[n + 1] = 0.0f;
+    if constexpr (Layout == Packed::Perm) {
+        dst[0] = out[0];
+        dst[1] = out[n];
+        for (int i = 2; i < n; ++i) dst[i] = out[i];
+    } else if constexpr (Layout == Packed::Pack) {
+        dst[0] = out[0];
+        for (int i = 1; i < n - 1; ++i) dst[i] = out[i + 1];
+        dst[n - 1] = out[n];
+    }
+    return qspStsOk;
+}
+
 template <class T>
 using RealSmallKernel = QspStatus (*)(const T*, T*, T);
+
+template <class T, Packed Layout, int Order, bool Scaled>
+inline constexpr RealSmallKernel<T> kRealSmallForwardOne = ownsRealSmallForward<T, Layout, Order, Scaled>;
+template <Packed Layout, int Order, bool Scaled>
+    requires(Order >= 4)
+inline constexpr RealSmallKernel<float> kRealSmallForwardOne<float, Layout, Order, Scaled> =
+    ownsRealSmallForwardPairs<Layout, Order, Scaled>;
 
 // At 2 * order + scaled.
 template <class T, Packed Layout>
 inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
-    ownsRealSmallForward<T, Layout, 0, false>, ownsRealSmallForward<T, Layout, 0, true>,
-    ownsRealSmallForward<T, Layout, 1, false>, ownsRealSmallForward<T, Layout, 1, true>,
-    ownsRealSmallForward<T, Layout, 2, false>, ownsRealSmallForward<T, Layout, 2, true>,
-    ownsRealSmallForward<T, Layout, 3, false>, ownsRealSmallForward<T, Layout, 3, true>,
-    ownsRealSmallForward<T, Layout, 4, false>, ownsRealSmallForward<T, Layout, 4, true>,
-    ownsRealSmallForward<T, Layout, 5, false>, ownsRealSmallForward<T, Layout, 5, true>,
+    kRealSmallForwardOne<T, Layout, 0, false>, kRealSmallForwardOne<T, Layout, 0, true>,
+    kRealSmallForwardOne<T, Layout, 1, false>, kRealSmallForwardOne<T, Layout, 1, true>,
+    kRealSmallForwardOne<T, Layout, 2, false>, kRealSmallForwardOne<T, Layout, 2, true>,
+    kRealSmallForwardOne<T, Layout, 3, false>, kRealSmallForwardOne<T, Layout, 3, true>,
+    kRealSmallForwardOne<T, Layout, 4, false>, kRealSmallForwardOne<T, Layout, 4, true>,
+    kRealSmallForwardOne<T, Layout, 5, false>, kRealSmallForwardOne<T, Layout, 5, true>,
 };
 
 template <class T, Packed Layout>
