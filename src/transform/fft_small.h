@@ -187,7 +187,9 @@ inline void ownsFftPairs(const C<float>* src, Put put)
     smallDft<O, float, Inv, m>([&](int p) { return O::load(src + 2 * p); }, [&](int k, Val v) { y[k] = v; });
 #pragma GCC unroll 16
     for (int k = 0; k < m; k += 2) {
-        const __m128 a = V::lowHalves(y[k].v, y[k + 1].v), b = V::highHalves(y[k].v, y[k + 1].v);
+        // (shufps rather than movlhps/movhlps: it issues on two ports, not one)
+        const __m128 a = _mm_shuffle_ps(y[k].v, y[k + 1].v, _MM_SHUFFLE(1, 0, 1, 0));
+        const __m128 b = _mm_shuffle_ps(y[k].v, y[k + 1].v, _MM_SHUFFLE(3, 2, 3, 2));
         // b * (W^k, W^(k+1)), conjugated for the inverse
         const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
         const float s = Inv ? -1.0f : 1.0f;
