@@ -111,6 +111,25 @@ inline typename O::Value threeEighths(typename O::Value v)
     return O::sub(O::template rot<Inv>(v), v);
 }
 
+// The 4-point butterfly of a..d with its outputs 1, 2, 3 turned by the
+// eighth-turn twiddles (1 -+ i)/sqrt 2, -+i and (-1 -+ i)/sqrt 2. With
+// amc = a - c and bmd = b - d, output 1 is amc + rot(bmd), and
+//   out1 + rot(out1) = (amc - bmd) + rot(amc + bmd),
+//   rot(out3) - out3 = rot(amc + bmd) - (amc - bmd),
+// so both eighth turns share one rotation.
+template <class O, class T, bool Inv>
+inline void butterflyEighths(typename O::Value a, typename O::Value b, typename O::Value c, typename O::Value d,
+                             typename O::Value* t)
+{
+    constexpr T h = T(0.707106781186547524400844362104849039L);
+    const auto apc = O::add(a, c), amc = O::sub(a, c), bpd = O::add(b, d), bmd = O::sub(b, d);
+    const auto q = O::sub(amc, bmd), r = O::template rot<Inv>(O::add(amc, bmd));
+    t[0] = O::add(apc, bpd);
+    t[1] = O::scale(O::add(q, r), h);
+    t[2] = O::template rot<Inv>(O::sub(apc, bpd));
+    t[3] = O::scale(O::sub(r, q), h);
+}
+
 // The M-point DFT (M = 1..32) of the values in(0..M-1), written out; out(k, v)
 // receives output k. Every input is read before the first output is given.
 template <class O, class T, bool Inv, int M, class In, class Out>
@@ -136,11 +155,9 @@ inline void smallDft(In in, Out out)
     } else if constexpr (M == 8) {
         // Two 4-point transforms (even and odd samples) and the 8-point
         // twiddles (1 -+ i)/sqrt 2, -+i, (-1 -+ i)/sqrt 2.
-        Val e[4], o[4];
+        Val e[4], t[4];
         smallDft<O, T, Inv, 4>([&](int p) { return in(2 * p); }, [&](int k, Val v) { e[k] = v; });
-        smallDft<O, T, Inv, 4>([&](int p) { return in(2 * p + 1); }, [&](int k, Val v) { o[k] = v; });
-        const Val t[4] = {o[0], scaleH(eighth<O, Inv>(o[1])), O::template rot<Inv>(o[2]),
-                          scaleH(threeEighths<O, Inv>(o[3]))};
+        butterflyEighths<O, T, Inv>(in(1), in(3), in(5), in(7), t);
         #pragma GCC unroll 16
         for (int k = 0; k < 4; ++k) {
             out(k, O::add(e[k], t[k]));
@@ -152,7 +169,12 @@ inline void smallDft(In in, Out out)
         constexpr int m = M / 4;
         Val y[M];
         #pragma GCC unroll 16
-        for (int p = 0; p < m; ++p)
+        for (int p = 0; p < m; ++p) {
+            if (p * (32 / M) == 4) {
+                // Twiddles (1 -+ i)/sqrt 2, -+i, (-1 -+ i)/sqrt 2.
+                butterflyEighths<O, T, Inv>(in(p), in(p + m), in(p + 2 * m), in(p + 3 * m), y + 4 * p);
+                continue;
+            }
             smallDft<O, T, Inv, 4>([&](int j) { return in(p + j * m); }, [&](int k, Val v) {
                 const int e = k * p * (32 / M);
                 if (e == 0)
@@ -166,6 +188,7 @@ inline void smallDft(In in, Out out)
                 else
                     y[4 * p + k] = O::template mulConst<Inv>(v, kSmallW<T>.w[e & 31]);
             });
+        }
         // Column k holds y[4p + k], p < m; its output r is X[k + 4r].
         #pragma GCC unroll 16
         for (int k = 0; k < 4; ++k)
