@@ -7,9 +7,7 @@ using fft::C;
 
 QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC32fc, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsComplexEntry<float, false>(rec, reinterpret_cast<const C<float>*>(pSrc),
+    return fft::ownsComplexEntry<float, false>(pFFTSpec, fft::kC32fc, reinterpret_cast<const C<float>*>(pSrc),
                                                reinterpret_cast<C<float>*>(pDst), pBuffer);
 }
 
@@ -20,9 +18,7 @@ QspStatus qspsFFTFwd_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFF
 
 QspStatus qspsFFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC64fc, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsComplexEntry<double, false>(rec, reinterpret_cast<const C<double>*>(pSrc),
+    return fft::ownsComplexEntry<double, false>(pFFTSpec, fft::kC64fc, reinterpret_cast<const C<double>*>(pSrc),
                                                 reinterpret_cast<C<double>*>(pDst), pBuffer);
 }
 
@@ -69,9 +65,7 @@ QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFT
 
 QspStatus qspsFFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsRealForwardEntry<float, fft::Packed::Pack>(rec, pSrc, pDst, pBuffer);
+    return fft::ownsRealForwardEntry<float, fft::Packed::Pack>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -81,9 +75,7 @@ QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsRealForwardEntry<float, fft::Packed::Perm>(rec, pSrc, pDst, pBuffer);
+    return fft::ownsRealForwardEntry<float, fft::Packed::Perm>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -93,9 +85,7 @@ QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsRealForwardEntry<float, fft::Packed::Ccs>(rec, pSrc, pDst, pBuffer);
+    return fft::ownsRealForwardEntry<float, fft::Packed::Ccs>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -105,9 +95,7 @@ QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFT
 
 QspStatus qspsFFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsRealForwardEntry<double, fft::Packed::Pack>(rec, pSrc, pDst, pBuffer);
+    return fft::ownsRealForwardEntry<double, fft::Packed::Pack>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -117,9 +105,7 @@ QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsRealForwardEntry<double, fft::Packed::Perm>(rec, pSrc, pDst, pBuffer);
+    return fft::ownsRealForwardEntry<double, fft::Packed::Perm>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -129,9 +115,7 @@ QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    return fft::ownsRealForwardEntry<double, fft::Packed::Ccs>(rec, pSrc, pDst, pBuffer);
+    return fft::ownsRealForwardEntry<double, fft::Packed::Ccs>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)

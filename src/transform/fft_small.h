@@ -237,7 +237,8 @@ __attribute__((flatten)) void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
                                [&](int k, Val v) { O::store(dst + k, Scaled ? O::scale(v, f) : v); });
     } else {
         using V = simd::Vec<float>;
-        ownsFftPairs<Inv, Order>(src, [&](int k, __m128 v) { V::storeu(&dst[k].re, Scaled ? V::mul(v, V::splat(f)) : v); });
+        ownsFftPairs<Inv, Order>(src,
+                                 [&](int k, __m128 v) { V::storeu(&dst[k].re, Scaled ? V::mul(v, V::splat(f)) : v); });
     }
 }
 

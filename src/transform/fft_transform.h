@@ -13,16 +13,26 @@ namespace fft {
 
 // ---------------------------------------------------------------- checks
 
-// The record, its identifier, then the data pointers in parameter order,
-// then the work buffer when the record needs one.
+// The record, its identifier, then the data pointers in parameter order.
+template <class... P>
+inline QspStatus checkRecordAndData(const void* spec, Kind kind, const P*... data)
+{
+    if (spec == nullptr) return qspStsNullPtr;
+    if (static_cast<const Record*>(spec)->id != kind) return qspStsBadRecord;
+    // One branch for the pointers: the tests are cheap and never fault.
+    if (((data == nullptr) | ...)) return qspStsNullPtr;
+    return qspStsOk;
+}
+
+// A record that needs a work buffer called without one.
+inline bool missingWork(const Record* rec, const Qsp8u* work) { return rec->workSize > 0 && work == nullptr; }
+
+// checkRecordAndData, then the work buffer when the record needs one.
 template <class... P>
 QspStatus checkCall(const void* spec, Kind kind, Qsp8u* work, const P*... data)
 {
-    if (spec == nullptr) return qspStsNullPtr;
-    const Record* rec = static_cast<const Record*>(spec);
-    if (rec->id != kind) return qspStsBadRecord;
-    // One branch for the pointers: the tests are cheap and never fault.
-    if (((data == nullptr) | ...) | ((rec->workSize > 0) & (work == nullptr))) return qspStsNullPtr;
+    if (QspStatus s = checkRecordAndData(spec, kind, data...)) return s;
+    if (missingWork(static_cast<const Record*>(spec), work)) return qspStsNullPtr;
     return qspStsOk;
 }
 
@@ -116,12 +126,17 @@ __attribute__((noinline)) QspStatus ownsComplexCallOutOfLine(const Record* rec, 
     return qspStsOk;
 }
 
+// The checks are those of checkCall; the records of the small orders never
+// need a work buffer (their workSize is 0), so only the other tiers test it.
 template <class T, bool Inv>
-inline QspStatus ownsComplexEntry(const Record* rec, const C<T>* src, C<T>* dst, Qsp8u* work)
+inline QspStatus ownsComplexEntry(const void* spec, Kind kind, const C<T>* src, C<T>* dst, Qsp8u* work)
 {
+    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
+    const Record* rec = static_cast<const Record*>(spec);
     const int order = rec->order;
     if (__builtin_expect(order <= kSmallMax, 1))
         return ownsSmall<T, Inv>(order, normalises<Inv>(rec), src, dst, factorOf<T>(rec));
+    if (missingWork(rec, work)) return qspStsNullPtr;
     return ownsComplexCallOutOfLine<T, Inv>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
@@ -516,13 +531,17 @@ __attribute__((noinline)) QspStatus ownsRealForwardOutOfLine(const Record* rec, 
 }
 
 // The real forward kinds from their entry points: the small orders end in a
-// jump to their kernel.
+// jump to their kernel. As for the complex kinds, only the other orders test
+// the work buffer.
 template <class T, Packed Layout>
-inline QspStatus ownsRealForwardEntry(const Record* rec, const T* src, T* dst, Qsp8u* work)
+inline QspStatus ownsRealForwardEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
 {
+    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
+    const Record* rec = static_cast<const Record*>(spec);
     const int order = rec->order;
     if (__builtin_expect(order <= kSmallMax, 1))
         return kRealSmallForward<T, Layout>[2 * order + int(rec->forwardNormalise != 0)](src, dst, factorOf<T>(rec));
+    if (missingWork(rec, work)) return qspStsNullPtr;
     return ownsRealForwardOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
