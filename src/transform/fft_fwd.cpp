@@ -7,11 +7,8 @@ using fft::C;
 
 QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC32fc, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsComplexCall<float, false>(rec, reinterpret_cast<const C<float>*>(pSrc), reinterpret_cast<C<float>*>(pDst),
-                                       fft::workOf<C<float>>(rec, pBuffer));
-    return qspStsOk;
+    return fft::ownsComplexEntry<float, false>(pFFTSpec, fft::kC32fc, reinterpret_cast<const C<float>*>(pSrc),
+                                               reinterpret_cast<C<float>*>(pDst), pBuffer);
 }
 
 QspStatus qspsFFTFwd_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
@@ -21,11 +18,8 @@ QspStatus qspsFFTFwd_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFF
 
 QspStatus qspsFFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC64fc, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsComplexCall<double, false>(rec, reinterpret_cast<const C<double>*>(pSrc),
-                                        reinterpret_cast<C<double>*>(pDst), fft::workOf<C<double>>(rec, pBuffer));
-    return qspStsOk;
+    return fft::ownsComplexEntry<double, false>(pFFTSpec, fft::kC64fc, reinterpret_cast<const C<double>*>(pSrc),
+                                                reinterpret_cast<C<double>*>(pDst), pBuffer);
 }
 
 QspStatus qspsFFTFwd_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)
@@ -71,10 +65,7 @@ QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFT
 
 QspStatus qspsFFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<float, fft::Packed::Pack>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -84,10 +75,7 @@ QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<float, fft::Packed::Perm>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -97,10 +85,7 @@ QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<float, fft::Packed::Ccs>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -110,10 +95,7 @@ QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFT
 
 QspStatus qspsFFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<double, fft::Packed::Pack>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -123,10 +105,7 @@ QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<double, fft::Packed::Perm>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -136,10 +115,7 @@ QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealForwardCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealForwardEntry<double, fft::Packed::Ccs>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)

@@ -7,11 +7,8 @@ using fft::C;
 
 QspStatus qspsFFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC32fc, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsComplexCall<float, true>(rec, reinterpret_cast<const C<float>*>(pSrc), reinterpret_cast<C<float>*>(pDst),
-                                       fft::workOf<C<float>>(rec, pBuffer));
-    return qspStsOk;
+    return fft::ownsComplexEntry<float, true>(pFFTSpec, fft::kC32fc, reinterpret_cast<const C<float>*>(pSrc),
+                                              reinterpret_cast<C<float>*>(pDst), pBuffer);
 }
 
 QspStatus qspsFFTInv_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer)
@@ -21,11 +18,8 @@ QspStatus qspsFFTInv_CToC_32fc_I(Qsp32fc* pSrcDst, const QspsFFTSpec_C_32fc* pFF
 
 QspStatus qspsFFTInv_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kC64fc, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsComplexCall<double, true>(rec, reinterpret_cast<const C<double>*>(pSrc),
-                                        reinterpret_cast<C<double>*>(pDst), fft::workOf<C<double>>(rec, pBuffer));
-    return qspStsOk;
+    return fft::ownsComplexEntry<double, true>(pFFTSpec, fft::kC64fc, reinterpret_cast<const C<double>*>(pSrc),
+                                               reinterpret_cast<C<double>*>(pDst), pBuffer);
 }
 
 QspStatus qspsFFTInv_CToC_64fc_I(Qsp64fc* pSrcDst, const QspsFFTSpec_C_64fc* pFFTSpec, Qsp8u* pBuffer)

@@ -3,6 +3,7 @@
 // transforms' recombination and packed layouts.
 #pragma once
 #include "fft_record.h"
+#include "fft_small.h"
 #include "mathfn/half.h"
 #include "qsp_validators.h"
 
@@ -12,16 +13,26 @@ namespace fft {
 
 // ---------------------------------------------------------------- checks
 
-// The record, its identifier, then the data pointers in parameter order,
-// then the work buffer when the record needs one.
+// The record, its identifier, then the data pointers in parameter order.
+template <class... P>
+inline QspStatus checkRecordAndData(const void* spec, Kind kind, const P*... data)
+{
+    if (spec == nullptr) return qspStsNullPtr;
+    if (static_cast<const Record*>(spec)->id != kind) return qspStsBadRecord;
+    // One branch for the pointers: the tests are cheap and never fault.
+    if (((data == nullptr) | ...)) return qspStsNullPtr;
+    return qspStsOk;
+}
+
+// A record that needs a work buffer called without one.
+inline bool missingWork(const Record* rec, const Qsp8u* work) { return rec->workSize > 0 && work == nullptr; }
+
+// checkRecordAndData, then the work buffer when the record needs one.
 template <class... P>
 QspStatus checkCall(const void* spec, Kind kind, Qsp8u* work, const P*... data)
 {
-    if (spec == nullptr) return qspStsNullPtr;
-    const Record* rec = static_cast<const Record*>(spec);
-    if (rec->id != kind) return qspStsBadRecord;
-    if (((data == nullptr) || ...)) return qspStsNullPtr;
-    if (rec->workSize > 0 && work == nullptr) return qspStsNullPtr;
+    if (QspStatus s = checkRecordAndData(spec, kind, data...)) return s;
+    if (missingWork(static_cast<const Record*>(spec), work)) return qspStsNullPtr;
     return qspStsOk;
 }
 
@@ -82,7 +93,7 @@ void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* 
 {
     const Qsp64s n = Qsp64s(1) << order;
     if (order <= kSmallMax)
-        kSmallKernels<T, Inv, false>[order](src, dst, T(1));
+        ownsSmall<T, Inv>(order, false, src, dst, T(1));
     else if (order < largeFrom(sizeof(T) == 8))
         ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
     else
@@ -101,10 +112,7 @@ void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
     const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
     if (order <= kSmallMax) {
         // The straight-line kernels scale as they store.
-        if (scaled)
-            kSmallKernels<T, Inv, true>[order](src, dst, f);
-        else
-            kSmallKernels<T, Inv, false>[order](src, dst, T(1));
+        ownsSmall<T, Inv>(order, scaled, src, dst, f);
     } else if (order < largeFrom(sizeof(T) == 8)) {
         ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
         if (scaled) ownsScale(&dst->re, 2 * n, f);
@@ -113,6 +121,32 @@ void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
         ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
                              order, tw, scaled, f);
     }
+}
+
+// The interleaved complex kinds from their entry points: the small orders
+// end in a jump to their kernel, everything else goes through
+// ownsComplexCall, kept out of line so that the small path needs no stack
+// frame.
+template <class T, bool Inv>
+__attribute__((noinline)) QspStatus ownsComplexCallOutOfLine(const Record* rec, const C<T>* src, C<T>* dst,
+                                                             C<T>* work)
+{
+    ownsComplexCall<T, Inv>(rec, src, dst, work);
+    return qspStsOk;
+}
+
+// The checks are those of checkCall; the records of the small orders never
+// need a work buffer (their workSize is 0), so only the other tiers test it.
+template <class T, bool Inv>
+inline QspStatus ownsComplexEntry(const void* spec, Kind kind, const C<T>* src, C<T>* dst, Qsp8u* work)
+{
+    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
+    const Record* rec = static_cast<const Record*>(spec);
+    const int order = rec->order;
+    if (__builtin_expect(order <= kSmallMax, 1))
+        return ownsSmall<T, Inv>(order, normalises<Inv>(rec), src, dst, factorOf<T>(rec));
+    if (missingWork(rec, work)) return qspStsNullPtr;
+    return ownsComplexCallOutOfLine<T, Inv>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
 // The split kinds: real parts and imaginary parts in separate arrays.
@@ -127,10 +161,7 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
     if (order <= kSmallMax) {
         C<T> buf[1 << kSmallMax];
         for (Qsp64s i = 0; i < n; ++i) buf[i] = {srcRe[i], srcIm[i]};
-        if (scaled)
-            kSmallKernels<T, Inv, true>[order](buf, buf, f);
-        else
-            kSmallKernels<T, Inv, false>[order](buf, buf, T(1));
+        ownsSmall<T, Inv>(order, scaled, buf, buf, f);
         for (Qsp64s i = 0; i < n; ++i) {
             dstRe[i] = buf[i].re;
             dstIm[i] = buf[i].im;
@@ -192,19 +223,19 @@ inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s
     return {T(re), T(im)};
 }
 
-// W_16^k, k < 16: the recombination twiddles of the orders below 5, which
-// keep no tables (W_N^k = W_16^(16k/N)).
+// W_32^k, k < 32: the recombination twiddles of the straight-line orders
+// (W_N^k = W_32^(32k/N)); orders below 5 keep no tables.
 template <class T>
 struct RealSmallTwiddles {
-    C<T> w[16];
+    C<T> w[32];
 };
 
 template <class T>
 constexpr RealSmallTwiddles<T> makeRealSmallTwiddles()
 {
     RealSmallTwiddles<T> t{};
-    for (int k = 0; k < 16; ++k) {
-        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 16.0);
+    for (int k = 0; k < 32; ++k) {
+        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 32.0);
         t.w[k] = {T(sc.c), T(sc.s)};
     }
     return t;
@@ -235,13 +266,13 @@ inline C<T> forwardWholeTwiddle(const C<T>* table, Qsp64s k)
 }
 
 // The recombination twiddle of bin k: W_N^k (forward) or conj(W_N^k)
-// (inverse), from the record's tables or, below order 5, the built-in ones.
+// (inverse), from the record's tables or, up to order 5, the built-in ones.
 template <class T, bool Inv>
 inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 {
     const Qsp64s n = Qsp64s(1) << order;
-    if (order < 5) {
-        const C<T> w = kRealSmall<T>.w[k << (4 - order)];
+    if (order <= kSmallMax) {
+        const C<T> w = kRealSmall<T>.w[k << (kSmallMax - order)];
         return Inv ? C<T>{w.re, -w.im} : w;
     }
     if (!Inv && !rec->recombSplit) return forwardWholeTwiddle<T>(static_cast<const C<T>*>(rec->recomb), k);
@@ -351,7 +382,7 @@ void ownsRecombineInverse(const Record* rec, T* d, int order)
     z[quarter] = {T(2) * z[quarter].re, T(-2) * z[quarter].im};
 }
 
-// The recombination by order: orders 1..4 unrolled with built-in twiddles.
+// The recombination by order: orders 1..5 unrolled with built-in twiddles.
 template <class T, bool Inv>
 void ownsRecombine(const Record* rec, T* d, int order)
 {
@@ -367,6 +398,7 @@ void ownsRecombine(const Record* rec, T* d, int order)
     case 2: pick(std::integral_constant<int, 2>{}); return;
     case 3: pick(std::integral_constant<int, 3>{}); return;
     case 4: pick(std::integral_constant<int, 4>{}); return;
+    case 5: pick(std::integral_constant<int, 5>{}); return;
     default:
         if constexpr (Inv)
             ownsRecombineInverse<T>(rec, d, order);
@@ -399,6 +431,129 @@ void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
         }
         dst[1] = T(0);
     }
+}
+
+// The real forward transforms of orders 0..5, one straight-line function
+// per order, layout and scaling: the half-length complex kernel (scaling as
+// it stores), the recombination with built-in twiddles and the layout.
+template <class T, Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallForward(const T* src, T* dst, T f)
+{
+    constexpr Qsp64s n = Qsp64s(1) << Order;
+    if constexpr (Order == 0) {
+        dst[0] = Scaled ? src[0] * f : src[0];
+    } else {
+        ownsFftSmall<T, false, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), f);
+        ownsRecombineForward<T, Order>(nullptr, dst, Order);
+    }
+    if constexpr (Layout == Packed::Pack && n >= 4) {
+        const T nyquist = dst[1];
+        for (Qsp64s i = 1; i < n - 1; ++i) dst[i] = dst[i + 1];
+        dst[n - 1] = nyquist;
+    } else if constexpr (Layout == Packed::Ccs) {
+        if constexpr (n >= 2) {
+            dst[n] = dst[1];
+            dst[n + 1] = T(0);
+        }
+        dst[1] = T(0);
+    }
+    return qspStsOk;
+}
+
+// Real single precision, orders 4 and 5: the half-length transform Z stays in
+// registers as pairs (Z[2j], Z[2j+1]) and is recombined there, bins k, k+1
+// together with their mirrors N/2-k, N/2-k-1. The spectrum is written in
+// CCS layout, to dst or, for the other layouts, to a buffer first.
+template <Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, float* dst, float f)
+{
+    using V = simd::Vec<float>;
+    constexpr int n = 1 << Order, half = n / 2;
+    __m128 z[half / 2 + 1];
+    ownsFftPairs<false, Order - 1>(reinterpret_cast<const C<float>*>(src),
+                                   [&](int k, __m128 v) { z[k / 2] = Scaled ? V::mul(v, V::splat(f)) : v; });
+    z[half / 2] = z[0];  // Z[N/2] = Z[0]
+    alignas(16) float buf[Layout == Packed::Ccs ? 1 : n + 2];
+    float* out = Layout == Packed::Ccs ? dst : buf;
+    const __m128 conj = V::negOdd(V::zero()), halfSplat = V::splat(0.5f);
+#pragma GCC unroll 8
+    for (int k = 0; k < half / 2; k += 2) {
+        const __m128 a = z[k / 2];  // Z[k], Z[k+1]
+        // Z[N/2-k], Z[N/2-k-1]
+        const __m128 b = _mm_shuffle_ps(z[(half - k) / 2], z[(half - k) / 2 - 1], _MM_SHUFFLE(3, 2, 1, 0));
+        const __m128 cb = V::bitXor(b, conj);
+        // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm) with v_k = -i W_N^k / 2
+        const __m128 e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
+        const C<float> w0 = kRealSmall<float>.w[k << (kSmallMax - Order)];
+        const C<float> w1 = kRealSmall<float>.w[(k + 1) << (kSmallMax - Order)];
+        const __m128 vr = _mm_setr_ps(w0.im / 2, w0.im / 2, w1.im / 2, w1.im / 2);
+        const __m128 vi = _mm_setr_ps(-w0.re / 2, -w0.re / 2, -w1.re / 2, -w1.re / 2);
+        const __m128 fv = V::addsub(V::mul(d, vr), V::mul(V::swapParts(d), vi));
+        // X[k], X[k+1] = E + F; X[N/2-k], X[N/2-k-1] = conj(E - F)
+        V::storeu(out + 2 * k, V::add(e, fv));
+        const __m128 m = V::bitXor(V::sub(e, fv), conj);
+        V::storeu(out + 2 * (half - k - 1), _mm_shuffle_ps(m, m, _MM_SHUFFLE(1, 0, 3, 2)));
+    }
+    // X[N/4] = conj Z[N/4]; bins 0 and N/2 from Z[0] = (a, b): a + b and a - b.
+    _mm_storel_pi(reinterpret_cast<__m64*>(out + half), V::bitXor(z[half / 4], conj));
+    const float a = _mm_cvtss_f32(z[0]), b = _mm_cvtss_f32(_mm_shuffle_ps(z[0], z[0], 1));
+    out[0] = a + b;
+    out[1] = 0.0f;
+    out[n] = a - b;
+    out[n + 1] = 0.0f;
+    if constexpr (Layout == Packed::Perm) {
+        dst[0] = out[0];
+        dst[1] = out[n];
+        for (int i = 2; i < n; ++i) dst[i] = out[i];
+    } else if constexpr (Layout == Packed::Pack) {
+        dst[0] = out[0];
+        for (int i = 1; i < n - 1; ++i) dst[i] = out[i + 1];
+        dst[n - 1] = out[n];
+    }
+    return qspStsOk;
+}
+
+template <class T>
+using RealSmallKernel = QspStatus (*)(const T*, T*, T);
+
+template <class T, Packed Layout, int Order, bool Scaled>
+inline constexpr RealSmallKernel<T> kRealSmallForwardOne = ownsRealSmallForward<T, Layout, Order, Scaled>;
+template <Packed Layout, int Order, bool Scaled>
+    requires(Order >= 4)
+inline constexpr RealSmallKernel<float> kRealSmallForwardOne<float, Layout, Order, Scaled> =
+    ownsRealSmallForwardPairs<Layout, Order, Scaled>;
+
+// At 2 * order + scaled.
+template <class T, Packed Layout>
+inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
+    kRealSmallForwardOne<T, Layout, 0, false>, kRealSmallForwardOne<T, Layout, 0, true>,
+    kRealSmallForwardOne<T, Layout, 1, false>, kRealSmallForwardOne<T, Layout, 1, true>,
+    kRealSmallForwardOne<T, Layout, 2, false>, kRealSmallForwardOne<T, Layout, 2, true>,
+    kRealSmallForwardOne<T, Layout, 3, false>, kRealSmallForwardOne<T, Layout, 3, true>,
+    kRealSmallForwardOne<T, Layout, 4, false>, kRealSmallForwardOne<T, Layout, 4, true>,
+    kRealSmallForwardOne<T, Layout, 5, false>, kRealSmallForwardOne<T, Layout, 5, true>,
+};
+
+template <class T, Packed Layout>
+__attribute__((noinline)) QspStatus ownsRealForwardOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
+{
+    ownsRealForwardCall<T>(rec, src, dst, work, Layout);
+    return qspStsOk;
+}
+
+// The real forward kinds from their entry points: the small orders end in a
+// jump to their kernel. As for the complex kinds, only the other orders test
+// the work buffer.
+template <class T, Packed Layout>
+inline QspStatus ownsRealForwardEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
+{
+    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
+    const Record* rec = static_cast<const Record*>(spec);
+    const int order = rec->order;
+    if (__builtin_expect(order <= kSmallMax, 1))
+        return kRealSmallForward<T, Layout>[2 * order + int(rec->forwardNormalise != 0)](src, dst, factorOf<T>(rec));
+    if (missingWork(rec, work)) return qspStsNullPtr;
+    return ownsRealForwardOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
 template <class T>
