@@ -20,7 +20,8 @@ namespace fft {
 //    (b_k, b_k+1), the odd half twiddled by W_N^k, W_N^(k+1), and
 //    X[k] = a + W b, X[k+M] = a - W b written two at a time.
 
-// W_32^k, k < 32, for the written-out kernels.
+// W_32^k, k < 32, for the written-out kernels and the recombination of the
+// straight-line real orders (W_N^k = W_32^(32k/N)).
 template <class T>
 struct SmallW {
     C<T> w[32];

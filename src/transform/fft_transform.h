@@ -223,27 +223,6 @@ inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s
     return {T(re), T(im)};
 }
 
-// W_32^k, k < 32: the recombination twiddles of the straight-line orders
-// (W_N^k = W_32^(32k/N)); orders below 5 keep no tables.
-template <class T>
-struct RealSmallTwiddles {
-    C<T> w[32];
-};
-
-template <class T>
-constexpr RealSmallTwiddles<T> makeRealSmallTwiddles()
-{
-    RealSmallTwiddles<T> t{};
-    for (int k = 0; k < 32; ++k) {
-        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 32.0);
-        t.w[k] = {T(sc.c), T(sc.s)};
-    }
-    return t;
-}
-
-template <class T>
-inline constexpr RealSmallTwiddles<T> kRealSmall = makeRealSmallTwiddles<T>();
-
 // The whole forward recombination table (not coarse + fine) holds, for
 // k = 1 .. N/4 - 1, v_k = -i W_N^k / 2 = (Im W/2, -Re W/2), block-split in
 // blocks of L from k = 1, so that the vector loop reads its factors with
@@ -272,7 +251,7 @@ inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 {
     const Qsp64s n = Qsp64s(1) << order;
     if (order <= kSmallMax) {
-        const C<T> w = kRealSmall<T>.w[k << (kSmallMax - order)];
+        const C<T> w = kSmallW<T>.w[k << (kSmallMax - order)];
         return Inv ? C<T>{w.re, -w.im} : w;
     }
     if (!Inv && !rec->recombSplit) return forwardWholeTwiddle<T>(static_cast<const C<T>*>(rec->recomb), k);
@@ -484,8 +463,8 @@ __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, f
         const __m128 cb = V::bitXor(b, conj);
         // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm) with v_k = -i W_N^k / 2
         const __m128 e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
-        const C<float> w0 = kRealSmall<float>.w[k << (kSmallMax - Order)];
-        const C<float> w1 = kRealSmall<float>.w[(k + 1) << (kSmallMax - Order)];
+        const C<float> w0 = kSmallW<float>.w[k << (kSmallMax - Order)];
+        const C<float> w1 = kSmallW<float>.w[(k + 1) << (kSmallMax - Order)];
         const __m128 vr = _mm_setr_ps(w0.im / 2, w0.im / 2, w1.im / 2, w1.im / 2);
         const __m128 vi = _mm_setr_ps(-w0.re / 2, -w0.re / 2, -w1.re / 2, -w1.re / 2);
         const __m128 fv = V::addsub(V::mul(d, vr), V::mul(V::swapParts(d), vi));
