@@ -85,15 +85,10 @@ double atan2(double y, double x)
     const bool swap = ay > ax;
     const double t = swap ? ax / ay : ay / ax;
     const Split a = atanUnit(t);
-    double r;
-    if (!swap) {
-        // a or pi - a.
-        r = nx ? (kPi.hi - a.hi) + (kPi.lo - a.lo) : a.hi + a.lo;
-    } else {
-        // pi/2 - a or pi/2 + a.
-        r = nx ? (kHalfPi.hi + a.hi) + (kHalfPi.lo + a.lo) : (kHalfPi.hi - a.hi) + (kHalfPi.lo - a.lo);
-    }
-    return withSign(r, ny);
+    // The sign factor is exact, so a, pi - a, pi/2 - a or pi/2 + a come out
+    // as if written directly.
+    const Base& b = kBases[int(nx) + 2 * int(swap)];
+    return withSign((b.hi + b.sign * a.hi) + (b.lo + b.sign * a.lo), ny);
 }
 
 void atan2(const double* y, const double* x, double* out, int n)
