@@ -18,15 +18,20 @@ using VF = simd::Vec<float>;
 // measured slower here than the two double roots.)
 inline VF::Reg roots4(VD::Reg lo, VD::Reg hi) { return VD::narrow(VD::sqrt(lo), VD::sqrt(hi)); }
 
+// Four magnitudes from four real and four imaginary parts, squared and
+// summed in double (exact products).
+inline VF::Reg magnitudes4(VF::Reg re, VF::Reg im)
+{
+    auto sumOfSquares = [](VD::Reg r, VD::Reg m) { return VD::add(VD::mul(r, r), VD::mul(m, m)); };
+    return roots4(sumOfSquares(VD::widenLow(re), VD::widenLow(im)), sumOfSquares(VD::widenHigh(re), VD::widenHigh(im)));
+}
+
 void ownsMagnitude(const Qsp32fc* pSrc, Qsp32f* pDst, Qsp64s len)
 {
     Qsp64s i = 0;
-    auto sumOfSquares = [](VD::Reg re, VD::Reg im) { return VD::add(VD::mul(re, re), VD::mul(im, im)); };
     for (; i + 4 <= len; i += 4) {
         const VF::Reg a = VF::loadu(&pSrc[i].re), b = VF::loadu(&pSrc[i + 2].re);
-        const VF::Reg re = VF::evens(a, b), im = VF::odds(a, b);
-        VF::storeu(pDst + i, roots4(sumOfSquares(VD::widenLow(re), VD::widenLow(im)),
-                                    sumOfSquares(VD::widenHigh(re), VD::widenHigh(im))));
+        VF::storeu(pDst + i, magnitudes4(VF::evens(a, b), VF::odds(a, b)));
     }
     for (; i < len; ++i) {
         const double re = pSrc[i].re, im = pSrc[i].im;
@@ -38,10 +43,7 @@ void ownsMagnitude(const Qsp32f* pRe, const Qsp32f* pIm, Qsp32f* pDst, Qsp64s le
 {
     Qsp64s i = 0;
     for (; i + 4 <= len; i += 4) {
-        const VF::Reg r = VF::loadu(pRe + i), m = VF::loadu(pIm + i);
-        const VD::Reg r0 = _mm_cvtps_pd(r), r1 = _mm_cvtps_pd(_mm_movehl_ps(r, r));
-        const VD::Reg m0 = _mm_cvtps_pd(m), m1 = _mm_cvtps_pd(_mm_movehl_ps(m, m));
-        VF::storeu(pDst + i, roots4(VD::add(VD::mul(r0, r0), VD::mul(m0, m0)), VD::add(VD::mul(r1, r1), VD::mul(m1, m1))));
+        VF::storeu(pDst + i, magnitudes4(VF::loadu(pRe + i), VF::loadu(pIm + i)));
     }
     for (; i < len; ++i) {
         const double re = pRe[i], im = pIm[i];
