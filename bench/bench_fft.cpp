@@ -2,9 +2,9 @@
 // thread, same direction and placement): complex single and double
 // precision and real single precision, orders 0..22; and the record set-up
 // (GetSize + Init) against FFTW_ESTIMATE planning at the same orders. Each
-// case runs right after its twin, so that both see the same machine state. Each benchmark reports
-// the conventional rate 5 N log2(N) / t as "flops"; the ratio table at the
-// end gives FFTW time / our time.
+// case runs right after its twin, so that both see the same machine state.
+// Each benchmark reports the conventional rate 5 N log2(N) / t as "flops";
+// the ratio table at the end gives FFTW time / our time.
 #include <fftw3.h>
 
 #include <cstring>

@@ -152,6 +152,10 @@ struct Vec<float> {
     // Halves of two registers of complex pairs, and single pairs.
     static Reg lowHalves(Reg a, Reg b) { return _mm_movelh_ps(a, b); }  // a0, a1, b0, b1
     static Reg highHalves(Reg a, Reg b) { return _mm_movehl_ps(b, a); } // a2, a3, b2, b3
+    // The low or the high two lanes stored alone (8 bytes, p need not be
+    // aligned; no shuffle).
+    static void storeLowHalf(float* p, Reg r) { _mm_storel_pi(reinterpret_cast<__m64*>(p), r); }
+    static void storeHighHalf(float* p, Reg r) { _mm_storeh_pi(reinterpret_cast<__m64*>(p), r); }
     // One 8-byte pair repeated in both halves (p need not be aligned).
     static Reg loadPairDup(const float* p)
     {

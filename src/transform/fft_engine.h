@@ -585,9 +585,9 @@ void ownsFillLargeTwiddles(C<T>* tw, int order, const Octant<O>& oct)
             // outgrows the second-level cache (4 MiB from order 22 on),
             // nearly every value read from it misses, while products of two
             // small tables stay in the cache. Below that the octant is the
-            // cheaper source. The space
-            // behind the large tables (unused, inside the record block)
-            // holds the small tables while they are needed.
+            // cheaper source. The space behind the large tables (unused,
+            // inside the record block) holds the small tables while they
+            // are needed.
             double* scratch = reinterpret_cast<double*>(tw + batches * rows + (Qsp64s(kLargeBatch) << n1));
             ownsFillByProducts(tw, batches, rows, kLargeBatch, order, scratch);
             tw += batches * rows;
@@ -672,9 +672,10 @@ void ownsLargeTranspose(InterleavedSource<T> src, C<T>* work, Qsp64s rows, Qsp64
 // into their place in rowScratch with the row behind them as the second
 // buffer. Against transposing the whole array first this saves writing the
 // transposed array out of the caches and reading it back.
-// With 16 rows the source lines of a whole transposition tile are
-// contiguous and the plain transposition measured faster.
 constexpr Qsp64s kGatherAhead = 16;  // source lines fetched this many columns ahead
+// Gathering pays from this many rows on; with 16 rows the source lines of a
+// whole transposition tile are contiguous and the plain transposition
+// measured faster.
 constexpr Qsp64s kGatherRowsFrom = 64;
 
 template <class T>
@@ -689,8 +690,8 @@ void ownsGatherRows(InterleavedSource<T> src, C<T>* stage, Qsp64s b0, Qsp64s row
             // Two rows per register: its halves are stored apart, no shuffle.
             for (Qsp64s g = 0; g < G; g += 2) {
                 const auto r = K::load(in + g);
-                _mm_storel_pi(reinterpret_cast<__m64*>(stage + g * cols + j), r);
-                _mm_storeh_pi(reinterpret_cast<__m64*>(stage + (g + 1) * cols + j), r);
+                K::V::storeLowHalf(&stage[g * cols + j].re, r);
+                K::V::storeHighHalf(&stage[(g + 1) * cols + j].re, r);
             }
         } else {
             for (Qsp64s g = 0; g < G; ++g) K::store(stage + g * cols + j, K::load(in + g));
