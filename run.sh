@@ -5,14 +5,15 @@
 #
 #   ./run.sh demo       build the libraries and run the demo program
 #   ./run.sh test       build and run the whole test suite
-#   ./run.sh sanitize   the test suite built with ASan + UBSan
+#   ./run.sh sanitize   the test suite built with ASan + UBSan (without the
+#                       tests labelled heavy)
 #   ./run.sh bench      build the benchmarks and run them (ratios to peers)
 set -euo pipefail
 cd "$(dirname "$0")"
 
 BUILD_PACKAGES="g++ cmake ninja-build python3 pkg-config"
 TEST_PACKAGES="libgtest-dev"
-BENCH_PACKAGES="libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev"
+BENCH_PACKAGES="libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev libsleef-dev libsamplerate0-dev libsoxr-dev"
 JOBS=$(nproc 2>/dev/null || echo 2)
 
 need_packages() {
@@ -49,7 +50,7 @@ sanitize)
     need_packages $BUILD_PACKAGES $TEST_PACKAGES
     configure_and_build build-sanitize -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQSP_BUILD_TESTS=ON -DQSP_SANITIZE=ON
     ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
-        ctest --test-dir build-sanitize -j "$JOBS" --output-on-failure
+        ctest --test-dir build-sanitize -j "$JOBS" --output-on-failure -LE heavy
     ;;
 bench)
     need_packages $BUILD_PACKAGES $BENCH_PACKAGES
@@ -57,7 +58,7 @@ bench)
     for b in build-bench/bench/qsp_bench_*; do "$b" "${@:2}"; done
     ;;
 *)
-    sed -n '2,10p' "$0"
+    sed -n '2,11p' "$0"
     exit 2
     ;;
 esac
