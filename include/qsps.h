@@ -1887,6 +1887,27 @@ QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
 QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
 QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
+/* WinBartlett ------------------------------------------------------------- */
+/*
+ * Triangle window: pDst[n] = pSrc[n] * w(n), w(n) = 2n/(N-1) up to the centre
+ * and mirrored, N = len >= 3 (else qspStsBadSize).
+ * Types: both parts of a complex element are multiplied by the same real
+ * weight; 16s/16sc results are rounded to nearest and saturated; _I forms work
+ * in place; alpha is a double for the 64f and 64fc forms, a float otherwise.
+ */
+QspStatus qspsWinBartlett_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsWinBartlett_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsWinBartlett_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsWinBartlett_16sc_I(Qsp16sc* pSrcDst, int len);
+QspStatus qspsWinBartlett_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsWinBartlett_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsWinBartlett_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsWinBartlett_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsWinBartlett_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsWinBartlett_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsWinBartlett_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsWinBartlett_64fc_I(Qsp64fc* pSrcDst, int len);
+
 #ifdef __cplusplus
 }
 #endif
