@@ -2,7 +2,6 @@
 // WinBartlett: the triangle window, w(k) = 2k/(N-1) rising to the centre
 // and mirrored. The slope is formed once; each weight is k times it, so
 // no error accumulates along the vector.
-#include "checks.h"
 #include "qsp_validators.h"
 #include "window.h"
 
@@ -31,8 +30,7 @@ private:
 template <class T>
 QspStatus bartlett(const T* pSrc, T* pDst, int len)
 {
-    if (QspStatus s = check::pointers(pSrc, pDst)) return s;
-    if (len < 3) return qspStsBadSize;
+    if (QspStatus s = window::check(pSrc, pDst, len, 3)) return s;
     if (len == 3) {
         window::endsZeroed(pSrc, pDst);
         return qspStsOk;

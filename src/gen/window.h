@@ -20,10 +20,20 @@
 // A complex element has both parts multiplied by the same real weight.
 #pragma once
 #include "arith/rounding.h"
+#include "checks.h"
 #include "qspdefs.h"
 #include "simd.h"
 
 namespace window {
+
+// The checks of every window: the pointers, then a length below the
+// family's shortest.
+template <class T>
+QspStatus check(const T* pSrc, const T* pDst, int len, int shortest)
+{
+    if (QspStatus s = ::check::pointers(pSrc, pDst)) return s;
+    return len < shortest ? qspStsBadSize : qspStsOk;
+}
 
 // Weights per block: 2 KiB of doubles on the stack.
 constexpr int kBlock = 256;
