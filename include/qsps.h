@@ -2123,6 +2123,98 @@ QspStatus qspsWinKaiser_64f_I(Qsp64f* pSrcDst, int len, Qsp64f alpha);
 QspStatus qspsWinKaiser_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f alpha);
 QspStatus qspsWinKaiser_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f alpha);
 
+/* RandUniform ------------------------------------------------------------- */
+/*
+ * Uniformly distributed pseudo-random values from a generator state in
+ * caller memory. RandUniformGetSize gives the state's size in bytes (63
+ * bytes of alignment slack included); RandUniformInit builds the state at
+ * the first 64-byte boundary inside the caller's block for the interval
+ * and the seed; each RandUniform call continues the sequence. The same
+ * seed gives the same values on every machine, however a request is split
+ * into calls.
+ * The core stream: eight interleaved xoshiro256++ generators (Blackman and
+ * Vigna; period 2^256 - 1, all output bits pass BigCrush and PractRand).
+ * The seed goes through SplitMix64 into generator 0; generator s is
+ * generator 0 advanced by s 2^128 steps (never overlapping); step t of all
+ * eight gives the 64-bit words W(8t) .. W(8t+7) in that order; V(2j) and
+ * V(2j+1) are the low and the high half of W(j).
+ * Values: 8u, 16s: every integer of [low, high] equally likely, low +
+ * floor(V r / 2^32), r = high - low + 1, where a half V is skipped when
+ * the low 32 bits of V r fall below 2^32 mod r (so each value takes one
+ * half, rarely more). 32f: low + (high - low) u, u = (V >> 8) 2^-24, in
+ * single precision; 64f: low + (high - low) u, u = (W >> 12) 2^-52, in
+ * double; results at or above high are replaced by the value just below
+ * high (low = high gives low). When high - low overflows, both bounds are
+ * halved and the result doubled. Complex forms: the real stream over
+ * 2 len values, real part first, from the state of the real type.
+ * Init checks pState (qspStsNullPtr), then low above high or a bound that
+ * is not finite (qspStsBadRange). Generating calls check pDst, then pState
+ * (qspStsNullPtr), len (qspStsBadSize), then the state's identifier
+ * (qspStsBadRecord); nothing is written on error. Every call updates the
+ * state: one state serves one thread at a time. A state copied byte for
+ * byte works where the copy has the same address modulo 64.
+ * Example:
+ *     int size;
+ *     qspsRandUniformGetSize_32f(&size);
+ *     Qsp8u* block = qspsMalloc_8u(size);
+ *     QspsRandUniformState_32f* state = (QspsRandUniformState_32f*)block;
+ *     qspsRandUniformInit_32f(state, -1.0f, 1.0f, 2026);
+ *     qspsRandUniform_32f(x, 1024, state);   /* x[i] in [-1, 1) */
+ *     qspsFree(block);
+ */
+QspStatus qspsRandUniformGetSize_8u(int* pStateSize);
+QspStatus qspsRandUniformInit_8u(QspsRandUniformState_8u* pState, Qsp8u low, Qsp8u high, unsigned int seed);
+QspStatus qspsRandUniform_8u(Qsp8u* pDst, int len, QspsRandUniformState_8u* pState);
+QspStatus qspsRandUniformGetSize_16s(int* pStateSize);
+QspStatus qspsRandUniformInit_16s(QspsRandUniformState_16s* pState, Qsp16s low, Qsp16s high, unsigned int seed);
+QspStatus qspsRandUniform_16s(Qsp16s* pDst, int len, QspsRandUniformState_16s* pState);
+QspStatus qspsRandUniformGetSize_32f(int* pStateSize);
+QspStatus qspsRandUniformInit_32f(QspsRandUniformState_32f* pState, Qsp32f low, Qsp32f high, unsigned int seed);
+QspStatus qspsRandUniform_32f(Qsp32f* pDst, int len, QspsRandUniformState_32f* pState);
+QspStatus qspsRandUniformGetSize_64f(int* pStateSize);
+QspStatus qspsRandUniformInit_64f(QspsRandUniformState_64f* pState, Qsp64f low, Qsp64f high, unsigned int seed);
+QspStatus qspsRandUniform_64f(Qsp64f* pDst, int len, QspsRandUniformState_64f* pState);
+QspStatus qspsRandUniform_16sc(Qsp16sc* pDst, int len, QspsRandUniformState_16s* pState);
+QspStatus qspsRandUniform_32fc(Qsp32fc* pDst, int len, QspsRandUniformState_32f* pState);
+QspStatus qspsRandUniform_64fc(Qsp64fc* pDst, int len, QspsRandUniformState_64f* pState);
+
+/* RandGauss --------------------------------------------------------------- */
+/*
+ * Normally distributed pseudo-random values mean + stdDev z, z standard
+ * normal, from a generator state in caller memory: sizes, Init, seeding,
+ * the core stream of 64-bit words W(j) and the threading rules as in
+ * RandUniform.
+ * z by the ziggurat method (Marsaglia and Tsang; 256 layers of equal area,
+ * R = 3.654152885361009), exact in distribution up to the 2^-52 spacing of
+ * its uniform numbers: a word W gives the layer i = W mod 256 and u =
+ * (W >> 11) 2^-52 - 1; z = u x_i when |u| < x_(i+1)/x_i (98.5% of
+ * words); otherwise layer 0 samples the tail beyond R (Marsaglia's
+ * method, two words an attempt) and the other layers test the wedge with
+ * one more word. mean + stdDev z is formed in double and rounded once to
+ * the element type (8u, 16s: to nearest with ties to even, saturating).
+ * Complex forms: the real stream over 2 len values, real part first.
+ * Init checks pState (qspStsNullPtr), then mean not finite
+ * (qspStsBadArgument), then stdDev negative or not finite
+ * (qspStsBadStdDev); stdDev 0 gives the mean. Generating calls check pDst,
+ * then pState (qspStsNullPtr), len (qspStsBadSize), then the state's
+ * identifier (qspStsBadRecord); nothing is written on error.
+ */
+QspStatus qspsRandGaussGetSize_8u(int* pStateSize);
+QspStatus qspsRandGaussInit_8u(QspsRandGaussState_8u* pState, Qsp8u mean, Qsp8u stdDev, unsigned int seed);
+QspStatus qspsRandGauss_8u(Qsp8u* pDst, int len, QspsRandGaussState_8u* pState);
+QspStatus qspsRandGaussGetSize_16s(int* pStateSize);
+QspStatus qspsRandGaussInit_16s(QspsRandGaussState_16s* pState, Qsp16s mean, Qsp16s stdDev, unsigned int seed);
+QspStatus qspsRandGauss_16s(Qsp16s* pDst, int len, QspsRandGaussState_16s* pState);
+QspStatus qspsRandGaussGetSize_32f(int* pStateSize);
+QspStatus qspsRandGaussInit_32f(QspsRandGaussState_32f* pState, Qsp32f mean, Qsp32f stdDev, unsigned int seed);
+QspStatus qspsRandGauss_32f(Qsp32f* pDst, int len, QspsRandGaussState_32f* pState);
+QspStatus qspsRandGaussGetSize_64f(int* pStateSize);
+QspStatus qspsRandGaussInit_64f(QspsRandGaussState_64f* pState, Qsp64f mean, Qsp64f stdDev, unsigned int seed);
+QspStatus qspsRandGauss_64f(Qsp64f* pDst, int len, QspsRandGaussState_64f* pState);
+QspStatus qspsRandGauss_16sc(Qsp16sc* pDst, int len, QspsRandGaussState_16s* pState);
+QspStatus qspsRandGauss_32fc(Qsp32fc* pDst, int len, QspsRandGaussState_32f* pState);
+QspStatus qspsRandGauss_64fc(Qsp64fc* pDst, int len, QspsRandGaussState_64f* pState);
+
 #ifdef __cplusplus
 }
 #endif
