@@ -2159,7 +2159,7 @@ QspStatus qspsWinKaiser_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f alpha);
  *     Qsp8u* block = qspsMalloc_8u(size);
  *     QspsRandUniformState_32f* state = (QspsRandUniformState_32f*)block;
  *     qspsRandUniformInit_32f(state, -1.0f, 1.0f, 2026);
- *     qspsRandUniform_32f(x, 1024, state);   /* x[i] in [-1, 1) */
+ *     qspsRandUniform_32f(x, 1024, state);   // x[i] in [-1, 1)
  *     qspsFree(block);
  */
 QspStatus qspsRandUniformGetSize_8u(int* pStateSize);
