@@ -9,8 +9,8 @@
 //            dropped and the next half is used (Lemire's method; the
 //            dropping makes every integer exactly equally likely, and
 //            happens with probability below r / 2^32).
-//   32f      u = (V >> 8) 2^-24 in [0, 1), value = low + (high - low) u in
-//            single precision, at most the float below high.
+//   32f      value = low + w (V >> 8) in single precision, w = (high - low)
+//            2^-24, at most the float below high.
 //   64f      u = (W >> 12) 2^-52, value = low + (high - low) u in double,
 //            at most the double below high.
 // When high - low overflows its type, both bounds are halved and the value
@@ -28,9 +28,11 @@ namespace {
 // ---------------------------------------------------------------------------
 // Floating: a scaled affine map of u, clamped below high.
 
+// value = min(scale (low + width r), top), r the random part (Unit below);
+// for 32f width carries r's scale 2^-24.
 template <class F>
 struct FloatParams {
-    F low, width, scale, top;  // value = min(scale (low + width u), top)
+    F low, width, scale, top;
 };
 
 template <class F>
@@ -51,6 +53,7 @@ QspStatus floatParams(F low, F high, FloatParams<F>& p)
         p.low = low / 2;
         p.width = high / 2 - low / 2;
     }
+    if constexpr (sizeof(F) == 4) p.width *= 0x1p-24f;
     // The largest value below high (high itself when the range is empty).
     if (low < high) {
         using I = std::conditional_t<sizeof(F) == 4, Qsp32s, Qsp64s>;
@@ -65,44 +68,70 @@ QspStatus floatParams(F low, F high, FloatParams<F>& p)
     return qspStsOk;
 }
 
-void map32f(const Qsp32u* v, Qsp32f* d, int n, const FloatParams<Qsp32f>& p)
-{
-    using VF = simd::Vec<float>;
-    using VI = simd::Vec<Qsp32s>;
-    const VF::Reg step = VF::splat(0x1p-24f), low = VF::splat(p.low), width = VF::splat(p.width);
-    const VF::Reg scale = VF::splat(p.scale), top = VF::splat(p.top);
-    int i = 0;
-    for (; i + 4 <= n; i += 4) {
-        const VI::Reg bits = _mm_srli_epi32(VI::loadu(v + i), 8);
-        const VF::Reg u = VF::mul(_mm_cvtepi32_ps(bits), step);
-        VF::storeu(d + i, VF::min(VF::mul(scale, VF::add(low, VF::mul(width, u))), top));
+// The random part from the core stream: a register of values from a
+// register of halves (32f: four halves, four values; 64f: two words, two
+// values), or the value of element i of the halves at v. 32f: the integer
+// V >> 8 (its scale 2^-24 lies in the width); 64f: u in [0, 1).
+template <class F>
+struct Unit;
+template <>
+struct Unit<Qsp32f> {
+    static __m128 reg(__m128i halves)
+    {
+        return _mm_cvtepi32_ps(_mm_srli_epi32(halves, 8));
     }
-    for (; i < n; ++i) {
-        const float u = float(Qsp32s(v[i] >> 8)) * 0x1p-24f;
-        const float r = p.scale * (p.low + p.width * u);
-        d[i] = r < p.top ? r : p.top;
+    static float one(const Qsp32u* v, int i) { return float(Qsp32s(v[i] >> 8)); }
+};
+template <>
+struct Unit<Qsp64f> {
+    // (W >> 12) as the mantissa of a number in [1, 2), minus 1.
+    static __m128d reg(__m128i words)
+    {
+        using VU = simd::Vec<Qsp64u>;
+        const VU::Reg m = VU::bitOr(VU::shiftRight<12>(words), VU::splat(0x3FF0000000000000ull));
+        return _mm_sub_pd(_mm_castsi128_pd(m), _mm_set1_pd(1.0));
     }
-}
+    static double one(const Qsp32u* v, int i)
+    {
+        Qsp64u w;
+        __builtin_memcpy(&w, v + 2 * i, 8);
+        return __builtin_bit_cast(double, (w >> 12) | 0x3FF0000000000000ull) - 1.0;
+    }
+};
 
-void map64f(const Qsp64u* w, Qsp64f* d, int n, const FloatParams<Qsp64f>& p)
-{
-    using VD = simd::Vec<double>;
-    using VU = simd::Vec<Qsp64u>;
-    const VU::Reg one = VU::splat(0x3FF0000000000000ull);
-    const VD::Reg low = VD::splat(p.low), width = VD::splat(p.width), scale = VD::splat(p.scale);
-    const VD::Reg top = VD::splat(p.top), unit = VD::splat(1.0);
-    int i = 0;
-    for (; i + 2 <= n; i += 2) {
-        // (W >> 12) as the mantissa of a number in [1, 2), minus 1.
-        const VD::Reg u = VD::sub(_mm_castsi128_pd(VU::bitOr(VU::shiftRight<12>(VU::loadu(w + i)), one)), unit);
-        VD::storeu(d + i, VD::min(VD::mul(scale, VD::add(low, VD::mul(width, u))), top));
+// min(low + width u, top), or with the bounds halved, min(2 (low + width
+// u), top). The kernel is chosen once per call, so the common case does
+// no doubling.
+template <class F, bool Halved>
+struct FloatMap {
+    using V = simd::Vec<F>;
+    typename V::Reg low, width, top;
+    const FloatParams<F>& p;
+    explicit FloatMap(const FloatParams<F>& params)
+        : low(V::splat(params.low)), width(V::splat(params.width)), top(V::splat(params.top)), p(params)
+    {
     }
-    for (; i < n; ++i) {
-        const double u = __builtin_bit_cast(double, (w[i] >> 12) | 0x3FF0000000000000ull) - 1.0;
-        const double r = p.scale * (p.low + p.width * u);
-        d[i] = r < p.top ? r : p.top;
+    typename V::Reg reg(__m128i bits) const
+    {
+        typename V::Reg r = V::add(low, V::mul(width, Unit<F>::reg(bits)));
+        if constexpr (Halved) r = V::add(r, r);
+        return V::min(r, top);
     }
-}
+    F one(const Qsp32u* v, int i) const
+    {
+        F r = p.low + p.width * Unit<F>::one(v, i);
+        if constexpr (Halved) r = r + r;
+        return r < p.top ? r : p.top;
+    }
+    // n values from the halves at v.
+    void run(const Qsp32u* v, F* d, int n) const
+    {
+        constexpr int lanes = V::lanes;
+        int i = 0;
+        for (; i + lanes <= n; i += lanes) V::storeu(d + i, reg(_mm_loadu_si128(reinterpret_cast<const __m128i*>(v) + i / lanes)));
+        for (; i < n; ++i) d[i] = one(v, i);
+    }
+};
 
 // ---------------------------------------------------------------------------
 // Integers: Lemire's multiply-and-shift with rejection.
@@ -188,22 +217,34 @@ void generateInt(rng::Engine& e, D* pDst, Qsp64s len, const IntParams& p)
 template <class P>
 using Rec = rng::Record<P>;
 
-template <class P, class Map, class D>
-QspStatus generateFloat(D* pDst, Qsp64s len, void* pState, rng::Kind kind, Map map)
+// The batch first, then whole batches mapped straight from the generator's
+// registers (the same values, without the round trip through the batch),
+// then the rest through the batch.
+template <class F, bool Halved>
+void generateFloat(rng::Engine& e, F* pDst, Qsp64s len, const FloatParams<F>& p)
 {
-    Rec<P>* r = rng::opened<P>(pState, kind);
-    if (r == nullptr) return qspStsBadRecord;
-    constexpr int perValue = sizeof(D) / 4;  // halves per value
+    constexpr int perValue = sizeof(F) / 4;  // halves per value
+    constexpr int perBatch = rng::kBatchHalves / perValue;
+    constexpr int perWord = 2 / perValue;    // values per 64-bit word
+    const FloatMap<F, Halved> map(p);
     Qsp64s done = 0;
     while (done < len) {
-        const rng::Halves h = rng::unread(r->engine);
+        if (e.next == rng::kBatchHalves && len - done >= perBatch) {
+            F* d = pDst + done;
+            rng::advance(e, rng::kBatchSteps, [&map, d](int word, __m128i a, __m128i b) {
+                simd::Vec<F>::storeu(d + perWord * word, map.reg(a));
+                simd::Vec<F>::storeu(d + perWord * (word + 2), map.reg(b));
+            });
+            done += perBatch;
+            continue;
+        }
+        const rng::Halves h = rng::unread(e);
         const Qsp64s room = (len - done) * perValue;
         const int n = int(room < h.count ? room : h.count) / perValue;
-        map(h.p, pDst + done, n, r->params);
-        rng::consume(r->engine, n * perValue);
+        map.run(h.p, pDst + done, n);
+        rng::consume(e, n * perValue);
         done += n;
     }
-    return qspStsOk;
 }
 
 template <class T>
@@ -213,22 +254,15 @@ QspStatus checkCall(T* pDst, Qsp64s len, void* pState)
     return check::length(len);
 }
 
-QspStatus uniform32f(Qsp32f* pDst, Qsp64s len, QspsRandUniformState_32f* pState)
+template <class F, class S>
+QspStatus uniformFloat(F* pDst, Qsp64s len, S* pState, rng::Kind kind)
 {
     if (QspStatus s = checkCall(pDst, len, pState)) return s;
-    return generateFloat<FloatParams<Qsp32f>>(pDst, len, pState, rng::kUniform32f,
-                                              [](const Qsp32u* v, Qsp32f* d, int n, const FloatParams<Qsp32f>& p) {
-                                                  map32f(v, d, n, p);
-                                              });
-}
-
-QspStatus uniform64f(Qsp64f* pDst, Qsp64s len, QspsRandUniformState_64f* pState)
-{
-    if (QspStatus s = checkCall(pDst, len, pState)) return s;
-    return generateFloat<FloatParams<Qsp64f>>(pDst, len, pState, rng::kUniform64f,
-                                              [](const Qsp32u* v, Qsp64f* d, int n, const FloatParams<Qsp64f>& p) {
-                                                  map64f(reinterpret_cast<const Qsp64u*>(v), d, n, p);
-                                              });
+    Rec<FloatParams<F>>* r = rng::opened<FloatParams<F>>(pState, kind);
+    if (r == nullptr) return qspStsBadRecord;
+    if (r->params.scale == F(1)) generateFloat<F, false>(r->engine, pDst, len, r->params);
+    else generateFloat<F, true>(r->engine, pDst, len, r->params);
+    return qspStsOk;
 }
 
 template <class D, class S>
@@ -300,11 +334,11 @@ QspStatus qspsRandUniform_16s(Qsp16s* pDst, int len, QspsRandUniformState_16s* p
 }
 QspStatus qspsRandUniform_32f(Qsp32f* pDst, int len, QspsRandUniformState_32f* pState)
 {
-    return uniform32f(pDst, len, pState);
+    return uniformFloat(pDst, len, pState, rng::kUniform32f);
 }
 QspStatus qspsRandUniform_64f(Qsp64f* pDst, int len, QspsRandUniformState_64f* pState)
 {
-    return uniform64f(pDst, len, pState);
+    return uniformFloat(pDst, len, pState, rng::kUniform64f);
 }
 QspStatus qspsRandUniform_16sc(Qsp16sc* pDst, int len, QspsRandUniformState_16s* pState)
 {
@@ -314,12 +348,12 @@ QspStatus qspsRandUniform_16sc(Qsp16sc* pDst, int len, QspsRandUniformState_16s*
 QspStatus qspsRandUniform_32fc(Qsp32fc* pDst, int len, QspsRandUniformState_32f* pState)
 {
     if (QspStatus s = checkCall(pDst, len, pState)) return s;
-    return uniform32f(parts(pDst), twice(len), pState);
+    return uniformFloat(parts(pDst), twice(len), pState, rng::kUniform32f);
 }
 QspStatus qspsRandUniform_64fc(Qsp64fc* pDst, int len, QspsRandUniformState_64f* pState)
 {
     if (QspStatus s = checkCall(pDst, len, pState)) return s;
-    return uniform64f(parts(pDst), twice(len), pState);
+    return uniformFloat(parts(pDst), twice(len), pState, rng::kUniform64f);
 }
 
 }  // namespace y8

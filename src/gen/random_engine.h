@@ -85,10 +85,13 @@ inline Qsp64u splitMix64(Qsp64u& x)
     return z ^ (z >> 31);
 }
 
-// Fills the batch with the next kBatchSteps steps of every stream. The
-// streams go four at a time (two registers of two lanes), whose state
-// fits the sixteen vector registers with room for the step's temporaries.
-inline void refill(Engine& e)
+// The next `steps` steps of every stream, handed to sink(word, a, b): a
+// and b hold the 64-bit words W(word) .. W(word + 3), word counted from the
+// first of these steps. The streams go four at a time (two registers of
+// two lanes), whose state fits the sixteen vector registers with room for
+// the step's temporaries; so the words come in two interleaved passes.
+template <class Sink>
+inline void advance(Engine& e, int steps, Sink sink)
 {
     using V = simd::Vec<Qsp64u>;
     using R = V::Reg;
@@ -96,7 +99,7 @@ inline void refill(Engine& e)
         R a0 = V::load(&e.s[0][g]), a1 = V::load(&e.s[1][g]), a2 = V::load(&e.s[2][g]), a3 = V::load(&e.s[3][g]);
         R b0 = V::load(&e.s[0][g + 2]), b1 = V::load(&e.s[1][g + 2]), b2 = V::load(&e.s[2][g + 2]),
           b3 = V::load(&e.s[3][g + 2]);
-        auto advance = [](R& s0, R& s1, R& s2, R& s3) {
+        auto step = [](R& s0, R& s1, R& s2, R& s3) {
             const R result = V::add(V::rotateLeft<23>(V::add(s0, s3)), s0);
             const R t = V::shiftLeft<17>(s1);
             s2 = V::bitXor(s2, s0);
@@ -107,15 +110,25 @@ inline void refill(Engine& e)
             s3 = V::rotateLeft<45>(s3);
             return result;
         };
-        Qsp64u* out = e.batch + g;
-        for (int t = 0; t < kBatchSteps; ++t, out += kStreams) {
-            V::store(out, advance(a0, a1, a2, a3));
-            V::store(out + 2, advance(b0, b1, b2, b3));
+        for (int t = 0; t < steps; ++t) {
+            const R a = step(a0, a1, a2, a3);
+            sink(t * kStreams + g, a, step(b0, b1, b2, b3));
         }
         V::store(&e.s[0][g], a0), V::store(&e.s[1][g], a1), V::store(&e.s[2][g], a2), V::store(&e.s[3][g], a3);
         V::store(&e.s[0][g + 2], b0), V::store(&e.s[1][g + 2], b1), V::store(&e.s[2][g + 2], b2),
             V::store(&e.s[3][g + 2], b3);
     }
+}
+
+// Fills the batch with the next kBatchSteps steps of every stream.
+inline void refill(Engine& e)
+{
+    using V = simd::Vec<Qsp64u>;
+    Qsp64u* batch = e.batch;
+    advance(e, kBatchSteps, [batch](int word, V::Reg a, V::Reg b) {
+        V::store(batch + word, a);
+        V::store(batch + word + 2, b);
+    });
     e.next = 0;
 }
 
@@ -146,14 +159,38 @@ inline Halves unread(Engine& e)
 }
 inline void consume(Engine& e, int halves) { e.next += halves; }
 
-// The next 64-bit word, for consumers that read words one at a time. They
-// never read halves, so e.next stays even.
-inline Qsp64u nextWord(Engine& e)
-{
-    if (e.next == kBatchHalves) refill(e);
-    const Qsp64u w = e.batch[e.next >> 1];
-    e.next += 2;
-    return w;
-}
+// Words of W bits (64, or the 32-bit halves) one at a time, for consumers
+// that take a varying number of them per value. A consumer reads one width
+// only, so a 64-bit reader always finds the position even. The position
+// lives in a register while the consumer runs and goes back to the state
+// at the end: kept in the state, every word would wait for the store of
+// the previous position.
+template <class W>
+class Reader {
+public:
+    static constexpr int kHalves = int(sizeof(W)) / 4;
+    explicit Reader(Engine& e) : e_(e), at_(first(e) + e.next / kHalves), end_(first(e) + kBatchHalves / kHalves) {}
+    ~Reader() { e_.next = Qsp32s(at_ - first(e_)) * kHalves; }
+    W next()
+    {
+        if (at_ == end_) {
+            refill(e_);
+            at_ = first(e_);
+        }
+        return *at_++;
+    }
+    // Words readable without a refill, and the reading of several at once.
+    int available() const { return int(end_ - at_); }
+    const W* peek() const { return at_; }
+    void skip(int n) { at_ += n; }
+
+private:
+    static const W* first(const Engine& e) { return reinterpret_cast<const W*>(e.batch); }
+    Engine& e_;
+    const W* at_;
+    const W* end_;
+};
+using Words = Reader<Qsp64u>;
+using HalfWords = Reader<Qsp32u>;
 
 }  // namespace rng

@@ -18,11 +18,12 @@ struct FloatMap {
     FloatMap(F lo, F hi) : low(lo), width(hi - lo), scale(1), top(lo < hi ? std::nextafter(hi, -INFINITY) : hi)
     {
         if (std::isinf(width)) scale = 2, low = lo / 2, width = hi / 2 - lo / 2;
+        if constexpr (sizeof(F) == 4) width *= 0x1p-24f;  // 32f: low + w (V >> 8), w = width 2^-24
     }
     F operator()(CoreStream& c) const
     {
         F u;
-        if constexpr (sizeof(F) == 4) u = float(int32_t(c.half() >> 8)) * 0x1p-24f;
+        if constexpr (sizeof(F) == 4) u = float(int32_t(c.half() >> 8));
         else u = double(c.word() >> 12) * 0x1p-52;
         const F r = scale * (low + width * u);
         return r < top ? r : top;
