@@ -27,7 +27,6 @@
 #include <type_traits>
 
 #include "arith/rounding.h"
-#include "checks.h"
 #include "mathfn/ln.h"
 #include "qsp_validators.h"
 #include "random_state.h"
@@ -278,8 +277,7 @@ void generate32f(rng::Engine& e, Qsp32f* pDst, Qsp64s len, float mean, float std
 template <class D, class S>
 QspStatus gauss(D* pDst, Qsp64s len, S* pState, rng::Kind kind)
 {
-    if (QspStatus s = check::pointers(pDst, pState)) return s;
-    if (QspStatus s = check::length(len)) return s;
+    if (QspStatus s = rng::checkCall(pDst, len, pState)) return s;
     rng::Record<GaussParams>* r = rng::opened<GaussParams>(pState, kind);
     if (r == nullptr) return qspStsBadRecord;
     if constexpr (std::is_same_v<D, Qsp32f>) generate32f(r->engine, pDst, len, float(r->params.mean), float(r->params.stdDev));
@@ -290,8 +288,7 @@ QspStatus gauss(D* pDst, Qsp64s len, S* pState, rng::Kind kind)
 template <class D, class C, class S>
 QspStatus gaussComplex(C* pDst, int len, S* pState, rng::Kind kind)
 {
-    if (QspStatus s = check::pointers(pDst, pState)) return s;
-    if (QspStatus s = check::length(len)) return s;
+    if (QspStatus s = rng::checkCall(pDst, len, pState)) return s;
     return gauss(reinterpret_cast<D*>(pDst), 2 * Qsp64s(len), pState, kind);
 }
 

@@ -18,7 +18,6 @@
 // stream over twice the length: real part, then imaginary part.
 #include <type_traits>
 
-#include "checks.h"
 #include "qsp_validators.h"
 #include "random_state.h"
 
@@ -247,17 +246,10 @@ void generateFloat(rng::Engine& e, F* pDst, Qsp64s len, const FloatParams<F>& p)
     }
 }
 
-template <class T>
-QspStatus checkCall(T* pDst, Qsp64s len, void* pState)
-{
-    if (QspStatus s = check::pointers(pDst, pState)) return s;
-    return check::length(len);
-}
-
 template <class F, class S>
 QspStatus uniformFloat(F* pDst, Qsp64s len, S* pState, rng::Kind kind)
 {
-    if (QspStatus s = checkCall(pDst, len, pState)) return s;
+    if (QspStatus s = rng::checkCall(pDst, len, pState)) return s;
     Rec<FloatParams<F>>* r = rng::opened<FloatParams<F>>(pState, kind);
     if (r == nullptr) return qspStsBadRecord;
     if (r->params.scale == F(1)) generateFloat<F, false>(r->engine, pDst, len, r->params);
@@ -268,7 +260,7 @@ QspStatus uniformFloat(F* pDst, Qsp64s len, S* pState, rng::Kind kind)
 template <class D, class S>
 QspStatus uniformInt(D* pDst, Qsp64s len, S* pState, rng::Kind kind)
 {
-    if (QspStatus s = checkCall(pDst, len, pState)) return s;
+    if (QspStatus s = rng::checkCall(pDst, len, pState)) return s;
     Rec<IntParams>* r = rng::opened<IntParams>(pState, kind);
     if (r == nullptr) return qspStsBadRecord;
     generateInt(r->engine, pDst, len, r->params);
@@ -342,17 +334,17 @@ QspStatus qspsRandUniform_64f(Qsp64f* pDst, int len, QspsRandUniformState_64f* p
 }
 QspStatus qspsRandUniform_16sc(Qsp16sc* pDst, int len, QspsRandUniformState_16s* pState)
 {
-    if (QspStatus s = checkCall(pDst, len, pState)) return s;
+    if (QspStatus s = rng::checkCall(pDst, len, pState)) return s;
     return uniformInt(parts(pDst), twice(len), pState, rng::kUniform16s);
 }
 QspStatus qspsRandUniform_32fc(Qsp32fc* pDst, int len, QspsRandUniformState_32f* pState)
 {
-    if (QspStatus s = checkCall(pDst, len, pState)) return s;
+    if (QspStatus s = rng::checkCall(pDst, len, pState)) return s;
     return uniformFloat(parts(pDst), twice(len), pState, rng::kUniform32f);
 }
 QspStatus qspsRandUniform_64fc(Qsp64fc* pDst, int len, QspsRandUniformState_64f* pState)
 {
-    if (QspStatus s = checkCall(pDst, len, pState)) return s;
+    if (QspStatus s = rng::checkCall(pDst, len, pState)) return s;
     return uniformFloat(parts(pDst), twice(len), pState, rng::kUniform64f);
 }
 

@@ -9,6 +9,7 @@
 // generating call checks (qspStsBadRecord); Init writes it last, after the
 // checks, so a block that failed Init is never taken for a record.
 #pragma once
+#include "checks.h"
 #include "qspdefs.h"
 #include "random_engine.h"
 
@@ -62,6 +63,15 @@ Record<Params>* opened(void* block, Kind kind)
 {
     Record<Params>* r = place<Params>(block);
     return r->id == kind ? r : nullptr;
+}
+
+// The checks of a generating call before its record: the destination and
+// the state pointer, then the length.
+template <class T>
+QspStatus checkCall(const T* pDst, Qsp64s len, const void* pState)
+{
+    if (QspStatus s = check::pointers(pDst, pState)) return s;
+    return check::length(len);
 }
 
 template <class Params>

@@ -10,6 +10,7 @@
 #pragma once
 #include <type_traits>
 
+#include "arith/ops.h"
 #include "arith/rounding.h"
 #include "qspdefs.h"
 #include "simd.h"
@@ -19,12 +20,8 @@ namespace samples {
 // Values generated per block: a block of doubles fits the stack and L1.
 constexpr int kBlock = 512;
 
-template <class T> struct PartOf { using type = T; };
-template <> struct PartOf<Qsp16sc> { using type = Qsp16s; };
-template <> struct PartOf<Qsp32fc> { using type = Qsp32f; };
-template <> struct PartOf<Qsp64fc> { using type = Qsp64f; };
 template <class T>
-using Part = typename PartOf<T>::type;
+using Part = ops::Part<T>;
 // Doubles per element: 2 for the complex types.
 template <class T>
 constexpr int partsOf = int(sizeof(T) / sizeof(Part<T>));

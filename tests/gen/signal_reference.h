@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "element_parts.h"
 #include "qsp_test.h"
 
 namespace sigref {
@@ -40,27 +41,10 @@ inline LD turnsWithPhase(double phase, double rFreq, long long n)
     return u;
 }
 
-template <class T> struct PartOf { using type = T; };
-template <> struct PartOf<Qsp16sc> { using type = Qsp16s; };
-template <> struct PartOf<Qsp32fc> { using type = Qsp32f; };
-template <> struct PartOf<Qsp64fc> { using type = Qsp64f; };
-template <class T>
-using Part = typename PartOf<T>::type;
-template <class T>
-constexpr bool isComplex = sizeof(T) == 2 * sizeof(Part<T>);
-
-template <class T>
-Part<T> re(const T& x)
-{
-    if constexpr (isComplex<T>) return x.re;
-    else return x;
-}
-template <class T>
-Part<T> im(const T& x)
-{
-    if constexpr (isComplex<T>) return x.im;
-    else return Part<T>(0);
-}
+using genparts::im;
+using genparts::isComplex;
+using genparts::Part;
+using genparts::re;
 
 // Whether a stored part is within `abs` of the exact value v (plus the
 // rounding to the part type: half an ULP for floats, the rounding to an

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "element_parts.h"
 #include "qsp_test.h"
 
 namespace wintest {
@@ -62,25 +63,9 @@ void forEachType(const Family& fam, F f)
     f(fam.fc64, Qsp64fc{});
 }
 
-template <class T> struct PartOf { using type = T; };
-template <> struct PartOf<Qsp16sc> { using type = Qsp16s; };
-template <> struct PartOf<Qsp32fc> { using type = Qsp32f; };
-template <> struct PartOf<Qsp64fc> { using type = Qsp64f; };
-template <class T>
-using Part = typename PartOf<T>::type;
-template <class T>
-constexpr int partsOf = sizeof(T) / sizeof(Part<T>);
-
-template <class T>
-Part<T>* parts(T* p)
-{
-    return reinterpret_cast<Part<T>*>(p);
-}
-template <class T>
-const Part<T>* parts(const T* p)
-{
-    return reinterpret_cast<const Part<T>*>(p);
-}
+using genparts::Part;
+using genparts::parts;
+using genparts::partsOf;
 
 // Random data: full-range integers, floating values in [-100, 100].
 template <class T>
