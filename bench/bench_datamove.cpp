@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Copy, Set, Zero, Move and Flip against the C library's memcpy, memset,
 // memmove and std::reverse_copy, from 1 KiB to 64 MiB.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Benchmark output as ratios: every benchmark named "qsp/<case>" that has a
 // twin "<peer>/<case>" gets a line peer-time / qsp-time, so that a ratio
 // above 1 means the library is faster. Absolute times on a shared machine

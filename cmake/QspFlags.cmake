@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Compiler and linker settings of the two libraries.
 #
 # The same flags on every build machine: SSE4.2 as the one instruction-set

@@ -1,4 +1,5 @@
-/*
+/* SPDX-License-Identifier: BSD-3-Clause
+ *
  * qspdefs.h - element types, status values and selector codes shared by
  * libqspsy8 (the signal-processing functions, <qsps.h>) and libqspcore
  * (allocation and processor support, <qspcore.h>).

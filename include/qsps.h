@@ -1,4 +1,5 @@
-/*
+/* SPDX-License-Identifier: BSD-3-Clause
+ *
  * qsps.h - the functions of libqspsy8, the qsp signal-processing library.
  *
  * This file is generated from api/qsps.api by tools/gen_api.py; edit the

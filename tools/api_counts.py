@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: BSD-3-Clause
 """Counts the exports of the API table by suffix and by type code.
 
 How a name is counted. The name is cut at its underscores after the prefix

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: BSD-3-Clause
 """Checks of the built libraries that no unit test can make from inside.
 
   exports   QSPSY8 QSPCORE TABLE   the dynamic symbols are exactly the table's

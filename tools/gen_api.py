@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: BSD-3-Clause
 """Makes, from the API table, the three files that must agree with it:
 
   header       include/qsps.h: the public declarations of the implemented
@@ -25,7 +26,8 @@ import qspapi  # noqa: E402
 WIDENED = {'Qsp16s': 'int', 'Qsp16u': 'int'}
 
 HEADER_TOP = """\
-/*
+/* SPDX-License-Identifier: BSD-3-Clause
+ *
  * qsps.h - the functions of libqspsy8, the qsp signal-processing library.
  *
  * This file is generated from api/qsps.api by tools/gen_api.py; edit the
@@ -89,7 +91,8 @@ def validator_params(e):
 
 
 def validators(families):
-    out = ['// Generated from api/qsps.api by tools/gen_api.py.\n',
+    out = ['// SPDX-License-Identifier: BSD-3-Clause\n',
+           '// Generated from api/qsps.api by tools/gen_api.py.\n',
            '// The validating function of every export: it checks the arguments in\n',
            '// the fixed order, serves trivial cases and chooses the kernel.\n',
            '#pragma once\n#include "qspdefs.h"\n\nnamespace y8 {\n']
@@ -100,7 +103,8 @@ def validators(families):
 
 
 def entries(families):
-    out = ['// Generated from api/qsps.api by tools/gen_api.py.\n',
+    out = ['// SPDX-License-Identifier: BSD-3-Clause\n',
+           '// Generated from api/qsps.api by tools/gen_api.py.\n',
            '// Each export forwards its arguments unchanged to its validating\n',
            '// function, which the compiler turns into a single jump.\n',
            '#include "qsps.h"\n#include "qsp_validators.h"\n\n',

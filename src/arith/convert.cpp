@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Convert: element type conversions. Widening ones are exact; integer to
 // floating ones round as the floating type does (to nearest even);
 // narrowing integer ones saturate; scaled ones (Sfs) apply the scale-factor

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Floating-to-integer results: scaling by 2^-scaleFactor, rounding by one
 // of the three rounding modes and saturation to the destination type. The
 // work is done in double precision, where every single-precision value

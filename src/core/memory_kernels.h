@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Untyped kernels behind Zero, Set, Copy and Move of every element type.
 // Counts are in bytes; a typed function passes its length times the element
 // size. Kernels assume valid pointers and a count of at least one.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Independent references and sweeps of the arithmetic tests: the
 // scale-factor rule in exact 128-bit integer arithmetic (floor division and
 // an explicit comparison of the remainder with one half), distances to a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Convert: every conversion, its rounding modes and their error.
 #include "arith_families.h"
 

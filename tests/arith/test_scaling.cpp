@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The scale-factor rule itself: every mode against the exact reference, the
 // kernel selection by scale factor and the thresholds of the listed
 // functions.

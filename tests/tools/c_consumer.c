@@ -1,4 +1,5 @@
-/* A plain C99 program using the public headers: it must compile without a
+/* SPDX-License-Identifier: BSD-3-Clause
+ * A plain C99 program using the public headers: it must compile without a
  * warning and return 0. */
 #include <stdio.h>
 
