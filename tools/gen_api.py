@@ -44,13 +44,21 @@ HEADER_TOP = """\
  *  - Checks, in this order: pointers in parameter order (qspStsNullPtr),
  *    then lengths (qspStsBadSize), then mode arguments. On any error nothing
  *    is written. Warnings are returned after the whole output is written.
- *    The chunking _L functions check their 64-bit length first.
+ *    The chunking _L functions check their 64-bit length first. Status
+ *    values are listed in qspdefs.h; qspStatusText(status) names one.
  *  - Pointers need no particular alignment; 16-byte alignment is the fast
  *    case. Sources and destinations must not overlap unless the function's
  *    block says otherwise.
- *  - Threads: no function keeps state between calls; any function may run on
- *    any number of threads at once as long as no two calls write the same
- *    destination, record or buffer.
+ *  - State and threads: the library keeps no global state and no function
+ *    keeps state between calls, with one exception: qspsFFTInit_C_16fc
+ *    switches flush-to-zero and denormals-are-zero on (through libqspcore's
+ *    qspSetFlushToZero and qspSetDenormAreZeros, in the MXCSR register of
+ *    the calling thread) and leaves them on, so that afterwards denormal
+ *    single and double results of that thread become zero and denormal
+ *    operands read as zero. A program that needs denormals switches them
+ *    back after that call (both libqspcore functions report the previous
+ *    mode). Any function may run on any number of threads at once as long
+ *    as no two calls write the same destination, record or buffer.
  */
 #ifndef QSPS_H
 #define QSPS_H
