@@ -1202,11 +1202,13 @@ QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, 
  * and the odd lengths of other transforms and of MulPack, MulPerm and the
  * Conj functions follow the odd rule):
  *
- *   Pack, N values:  p[0] = R_0; p[2k-1] = R_k, p[2k] = I_k for 0 < k < N/2;
- *                    even N: p[N-1] = R_{N/2}.  No zero is stored.
- *   Perm, N values:  even N: p[0] = R_0, p[1] = R_{N/2}; p[2k] = R_k,
- *                    p[2k+1] = I_k for 0 < k < N/2.  Odd N: as Pack.
- *                    No zero is stored.
+ * (N/2 and (N-1)/2 below are rounded down, so for even N (N-1)/2 = N/2 - 1.)
+ *
+ *   Pack, N values:  p[0] = R_0; p[2k-1] = R_k, p[2k] = I_k for 1 <= k <=
+ *                    (N-1)/2; even N also p[N-1] = R_{N/2}. No zero stored.
+ *   Perm, N values:  even N: p[0] = R_0, p[1] = R_{N/2}, p[2k] = R_k,
+ *                    p[2k+1] = I_k for 1 <= k <= N/2 - 1. Odd N: as Pack.
+ *                    No zero stored.
  *   CCS, N+2 values (even N) or N+1 (odd N): c[2k] = R_k, c[2k+1] = I_k for
  *                    0 <= k <= N/2; the zeros c[1] = I_0 and, for even N,
  *                    c[N+1] = I_{N/2} are stored.
