@@ -388,15 +388,6 @@ void floatToInt(const char* name, QspStatus (*fn)(const S*, D*, int, QspRoundMod
     oneVector<S, D>(name, call, nullptr, nullptr, exactAt, a, {0, 1, 2});
 }
 
-LD halfValue(Qsp16f h)
-{
-    const int e = (h >> 10) & 0x1F, m = h & 0x3FF;
-    const LD s = (h & 0x8000) ? -1 : 1;
-    if (e == 0x1F) return m ? NAN : s * INFINITY;
-    if (e == 0) return s * std::ldexp(LD(m), -24);
-    return s * std::ldexp(LD(1024 + m), e - 25);
-}
-
 // 24-bit destinations are three bytes an element, least significant first.
 Qsp32s read24(const std::vector<Qsp8u>& d, int i, bool isSigned)
 {
@@ -600,7 +591,7 @@ void registerAll()
             return qspsConvert_16f16s_Sfs(s, d, n, mode, sf);
         };
         oneVector<Qsp16f, Qsp16s>("Convert_16f16s_Sfs", call, nullptr, nullptr,
-                                  [=](int i) { return Exact{halfValue(h[i])}; }, h, {0, 1, 2});
+                                  [=](int i) { return Exact{arithref::halfValue(h[i])}; }, h, {0, 1, 2});
     }
     to24<Qsp32f>("Convert_32f24s_Sfs", qspsConvert_32f24s_Sfs, true, {0, 1, 2});
     to24<Qsp32f>("Convert_32f24u_Sfs", qspsConvert_32f24u_Sfs, false, {0, 1, 2});
