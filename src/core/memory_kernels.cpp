@@ -8,6 +8,7 @@ namespace {
 using V = simd::Vec<Qsp8u>;
 using Reg = V::Reg;
 using memory::kChunkedMoveDistance;
+using memory::kPageAliasBytes;
 using memory::kReplicateBytes;
 using memory::kStreamCopyBytes;
 using memory::kStringCopyBytes;
@@ -41,6 +42,14 @@ inline bool isEightByteSplat(Reg pattern)
 inline bool isByteSplat(Reg pattern)
 {
     return V::anyMask(V::cmpeq(pattern, V::shuffleBytes(pattern, V::zero()))) == 0xFFFF;
+}
+
+// False when the destination lies 1 to kPageAliasBytes - 1 bytes above the
+// source modulo 4 KiB, where rep movsb slows many times over.
+inline bool stringCopyIsFast(const Qsp8u* s, const Qsp8u* d)
+{
+    const Qsp64u ahead = (reinterpret_cast<Qsp64u>(d) - reinterpret_cast<Qsp64u>(s)) & 4095;
+    return ahead == 0 || ahead >= Qsp64u(kPageAliasBytes);
 }
 
 inline Qsp64s misalignment(const void* p) { return reinterpret_cast<Qsp64u>(p) & 15; }
@@ -182,9 +191,9 @@ void ownsZero_8u(Qsp8u* pDst, Qsp64s bytes)
 void ownsCopy_8u_L(const Qsp8u* pSrc, Qsp8u* pDst, Qsp64s bytes)
 {
     if (bytes <= 64) moveUpTo64(pSrc, pDst, bytes);
-    else if (bytes < kStringCopyBytes) moveForward<false>(pSrc, pDst, bytes);
-    else if (bytes < kStreamCopyBytes) repMovsb(pSrc, pDst, bytes);
-    else moveForward<true>(pSrc, pDst, bytes);
+    else if (bytes >= kStreamCopyBytes) moveForward<true>(pSrc, pDst, bytes);
+    else if (bytes >= kStringCopyBytes && stringCopyIsFast(pSrc, pDst)) repMovsb(pSrc, pDst, bytes);
+    else moveForward<false>(pSrc, pDst, bytes);
 }
 
 void ownsMove_8u(const Qsp8u* pSrc, Qsp8u* pDst, Qsp64s bytes)
@@ -194,11 +203,11 @@ void ownsMove_8u(const Qsp8u* pSrc, Qsp8u* pDst, Qsp64s bytes)
     const bool overlap = pDst < pSrc + bytes && pSrc < pDst + bytes;
     if (!overlap) return ownsCopy_8u_L(pSrc, pDst, bytes);
     if (pDst < pSrc) {
-        if (bytes < kStringCopyBytes) moveForward<false>(pSrc, pDst, bytes);
-        else repMovsb(pSrc, pDst, bytes);
+        if (bytes >= kStringCopyBytes && stringCopyIsFast(pSrc, pDst)) repMovsb(pSrc, pDst, bytes);
+        else moveForward<false>(pSrc, pDst, bytes);
         return;
     }
     const Qsp64s distance = pDst - pSrc;
-    if (distance >= kChunkedMoveDistance) moveUpInChunks(pSrc, pDst, bytes, distance);
+    if (distance >= kChunkedMoveDistance && stringCopyIsFast(pSrc, pDst)) moveUpInChunks(pSrc, pDst, bytes, distance);
     else moveBackward(pSrc, pDst, bytes);
 }

@@ -134,3 +134,25 @@ TEST(MemoryMethods, MovesAroundTheStringAndChunkThresholds)
         for (Qsp64s distance : {d - 1, d, d + 13, 2 * d, 3 * d + 1, bytes / 2 + 1, bytes - 1})
             expectMove(bytes, 5, 5 + distance);
 }
+
+// Destinations 1 to 63 bytes above the source modulo 4 KiB take the
+// register loop instead of rep movsb; both sides of that boundary, for
+// copies, moves down (the destination below by 4 KiB less the distance)
+// and chunked moves up (by 4 KiB plus the distance).
+TEST(MemoryMethods, CopiesAndMovesAtDistancesAroundThePageAliasing)
+{
+    const Qsp64s alias = memory::kPageAliasBytes;
+    for (Qsp64s bytes : {memory::kStringCopyBytes, memory::kStringCopyBytes + 1, Qsp64s(16384) + 3})
+        for (Qsp64s distance : {Qsp64s(1), Qsp64s(8), alias - 1, alias, alias + 1, Qsp64s(4095)}) {
+            // Separate vectors in one area, the destination a whole number
+            // of pages plus `distance` above the source.
+            const Qsp64s pages = (bytes + 4095) / 4096 * 4096;
+            std::vector<Qsp8u> area = qsptest::randomBits<Qsp8u>(size_t(pages + distance + bytes + 64));
+            std::vector<Qsp8u> expected = area;
+            std::memcpy(expected.data() + pages + distance, expected.data(), size_t(bytes));
+            ASSERT_EQ(qspsCopy_8u(area.data(), area.data() + pages + distance, int(bytes)), qspStsOk);
+            ASSERT_TRUE(area == expected) << bytes << " bytes, " << distance << " above modulo 4 KiB";
+            expectMove(bytes, 4096 - distance, 0);
+            expectMove(bytes, 3, 3 + 4096 + distance);
+        }
+}
