@@ -50,7 +50,7 @@ void timeBytes(benchmark::State& state, Body body)
     state.SetBytesProcessed(int64_t(state.iterations()) * int64_t(b.bytes));
 }
 
-// The operations as the issue of copies measured them: 32f elements.
+// The operations on 32f elements, the form most callers use.
 void qspCopy(benchmark::State& s) { timeBytes(s, [](Buffers& b) { qspsCopy_32f(b.src32f(), b.dst32f(), b.len32f()); }); }
 void libcCopy(benchmark::State& s) { timeBytes(s, [](Buffers& b) { std::memcpy(b.dst, b.src, b.bytes); }); }
 void qspZero(benchmark::State& s) { timeBytes(s, [](Buffers& b) { qspsZero_32f(b.dst32f(), b.len32f()); }); }
