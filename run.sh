@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # One entry point for every routine job on a fresh Debian machine. Each
 # command installs the packages it needs (apt-get, when missing), then
 # configures, builds and runs.

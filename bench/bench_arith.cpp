@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Element-wise arithmetic against VOLK (where it has the same operation)
 // and against a plain loop compiled here with -O3 -msse4.2, at 1 Ki, 16 Ki,
 // 256 Ki and 16 Mi elements. Each case runs as qsp/<case>, volk/<case> and

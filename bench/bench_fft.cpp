@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Power-of-two FFTs against FFTW 3 (plans made with FFTW_MEASURE, single
 // thread, same direction and placement): complex single and double
 // precision and real single precision, orders 0..22; and the record set-up

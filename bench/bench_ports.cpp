@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Throughput of the SSE instructions the FFT kernels are made of, in
 // instructions per clock cycle of this machine. The cycle is timed with a
 // chain of dependent integer additions (one cycle each), so the figures do

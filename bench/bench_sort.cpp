@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Radix sorts against std::sort on the same random data. Each iteration
 // sorts a fresh copy of the input; the copy is outside the timed region.
 #include <benchmark/benchmark.h>

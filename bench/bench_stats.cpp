@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Reductions and searches against a plain loop built with -O3 -msse4.2 and
 // against VOLK where it has the operation (VOLK picks its own kernels for
 // this machine, which may use wider vectors than SSE4.2). Two sizes: 4096

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The same-width peer: FFTW built with 128-bit SSE2 codelets only, loaded at
 // run time from QSP_FFTW_SSE2_PREFIX/lib. It exports the same names as the
 // system FFTW that the benchmarks also link, so it is opened with

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Compiler and linker settings of the two libraries.
 #
 # The same flags on every build machine: SSE4.2 as the one instruction-set
@@ -46,6 +47,9 @@ function(qsp_library_settings target version_script)
   target_link_libraries(${target} PRIVATE ${QSP_LIB_LINK_LIBS})
   set_target_properties(${target} PROPERTIES
     VERSION 12 SOVERSION 12 SKIP_BUILD_RPATH ON
+    # Both libraries sit in one folder of the build tree, as they do when
+    # installed, so that libqspsy8's $ORIGIN run path holds there too.
+    LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     LINK_DEPENDS "${version_script}")
 endfunction()

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Installation: headers, both libraries with their soname links, a
 # pkg-config file (qsp.pc) and a CMake package, so that a user writes
 #     find_package(qsp REQUIRED)
@@ -10,6 +11,7 @@ install(TARGETS qspcore qspsy8 EXPORT qspTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_COMPONENT Development
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(FILES include/qspdefs.h include/qspcore.h include/qsps.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 set(QSP_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/qsp)
 install(EXPORT qspTargets NAMESPACE qsp:: FILE qspTargets.cmake DESTINATION ${QSP_CMAKE_DIR})

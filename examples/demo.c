@@ -1,4 +1,5 @@
-/* A first look at libqspsy8: allocate a vector, fill, copy and reverse it,
+/* SPDX-License-Identifier: BSD-3-Clause
+ * A first look at libqspsy8: allocate a vector, fill, copy and reverse it,
  * and print the library's version. */
 #include <stdio.h>
 

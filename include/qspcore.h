@@ -1,4 +1,5 @@
-/*
+/* SPDX-License-Identifier: BSD-3-Clause
+ *
  * qspcore.h - libqspcore, the support library of libqspsy8: aligned
  * allocation, the processor-feature query and the denormal controls.
  *

@@ -1,4 +1,5 @@
-/*
+/* SPDX-License-Identifier: BSD-3-Clause
+ *
  * qspdefs.h - element types, status values and selector codes shared by
  * libqspsy8 (the signal-processing functions, <qsps.h>) and libqspcore
  * (allocation and processor support, <qspcore.h>).
@@ -7,6 +8,22 @@
  */
 #ifndef QSPDEFS_H
 #define QSPDEFS_H
+
+/* ------------------------------------------------------------------------
+ * Version of these headers. qspsGetLibVersion() reports the version of the
+ * library actually loaded; a program can compare the two at start-up:
+ *
+ *     const QspVersionRecord* v = qspsGetLibVersion();
+ *     if (v->majorVersion != QSP_VERSION_MAJOR) ... built for another library
+ *
+ * QSP_VERSION is one number for #if tests: major * 10000 + minor * 100 +
+ * update (2026.0.0 is 20260000).
+ * ------------------------------------------------------------------------ */
+#define QSP_VERSION_MAJOR  2026
+#define QSP_VERSION_MINOR  0
+#define QSP_VERSION_UPDATE 0
+#define QSP_VERSION_STRING "2026.0.0"
+#define QSP_VERSION (QSP_VERSION_MAJOR * 10000 + QSP_VERSION_MINOR * 100 + QSP_VERSION_UPDATE)
 
 #ifdef __cplusplus
 extern "C" {
@@ -86,7 +103,7 @@ enum {
     qspStsBadToneFrequency      = -45,  /* tone relative frequency outside [0, 0.5) */
     qspStsBadToneMagnitude      = -46,  /* tone magnitude not above zero */
     qspStsBadDataType           = -59,  /* a data-type code the function does not support */
-    qspStsBadRoundMode          = -213, /* a rounding mode greater than 2 */
+    qspStsBadRoundMode          = -213, /* a rounding mode other than 0, 1 or 2 */
     qspStsBadAlgType            = -228, /* an algorithm type not 0, 1 or 2 */
 
     /* warnings */
@@ -97,6 +114,62 @@ enum {
     qspStsWarnLogOfNegative     = 8     /* a logarithm met a negative argument */
 };
 
+/* The name and meaning of a status, as constant text: for messages, as in
+ *
+ *     QspStatus st = qspsAdd_32f(a, b, c, n);
+ *     if (st != qspStsOk) fprintf(stderr, "Add_32f: %s\n", qspStatusText(st));
+ *
+ * A value this header does not name gives "unknown error" or "unknown
+ * warning". Defined here, in the header, so it adds nothing to either
+ * library's exports; thread-safe. */
+static inline const char* qspStatusText(QspStatus status)
+{
+    switch (status) {
+    case qspStsOk:                   return "qspStsOk: no error";
+    case qspStsOverflow:             return "qspStsOverflow: a computed size does not fit its type";
+    case qspStsBadArgument:          return "qspStsBadArgument: a selector is not one of its allowed values";
+    case qspStsBadSize:              return "qspStsBadSize: a length is zero or negative";
+    case qspStsBadRange:             return "qspStsBadRange: a lower bound lies above its upper bound";
+    case qspStsNullPtr:              return "qspStsNullPtr: a required pointer is null";
+    case qspStsZeroDivisor:          return "qspStsZeroDivisor: the divisor constant is zero";
+    case qspStsBadRecord:            return "qspStsBadRecord: a record lacks the identifier of its kind";
+    case qspStsBadRelFreq:           return "qspStsBadRelFreq: a relative frequency is outside its range";
+    case qspStsBadMaskSize:          return "qspStsBadMaskSize: a filter mask size is not positive and odd";
+    case qspStsBadStdDev:            return "qspStsBadStdDev: a standard deviation is negative";
+    case qspStsBadFftOrder:          return "qspStsBadFftOrder: an FFT order is out of range";
+    case qspStsBadFftFlag:           return "qspStsBadFftFlag: an FFT normalisation flag is not 1, 2, 4 or 8";
+    case qspStsBadWaveletParam:      return "qspStsBadWaveletParam: a wavelet filter length or offset is out of range";
+    case qspStsBadPatternSize:       return "qspStsBadPatternSize: a pattern is longer than the vector searched";
+    case qspStsBadFilterOrder:       return "qspStsBadFilterOrder: a filter order or biquad count is not positive";
+    case qspStsBadTapCount:          return "qspStsBadTapCount: a FIR tap count is not positive";
+    case qspStsBadMu:                return "qspStsBadMu: an adaptation step size is outside its range";
+    case qspStsBadPhase:             return "qspStsBadPhase: a multi-rate phase is not below its factor";
+    case qspStsBadFactor:            return "qspStsBadFactor: a multi-rate factor is below 1";
+    case qspStsBadDelayIndex:        return "qspStsBadDelayIndex: a delay-line index is outside the delay line";
+    case qspStsBadThreshold:         return "qspStsBadThreshold: a threshold level is not allowed for its mode";
+    case qspStsBadShift:             return "qspStsBadShift: a shift count is negative";
+    case qspStsBadCount:             return "qspStsBadCount: a requested count is out of range";
+    case qspStsBadTolerance:         return "qspStsBadTolerance: a tolerance or accuracy argument is negative";
+    case qspStsBadWindowParam:       return "qspStsBadWindowParam: the Kaiser window parameter is too large";
+    case qspStsBadTriangleAsymmetry: return "qspStsBadTriangleAsymmetry: triangle asymmetry outside [-pi, pi)";
+    case qspStsBadTrianglePhase:     return "qspStsBadTrianglePhase: triangle phase outside [0, 2pi)";
+    case qspStsBadTriangleFrequency: return "qspStsBadTriangleFrequency: triangle relative frequency outside [0, 0.5)";
+    case qspStsBadTriangleMagnitude: return "qspStsBadTriangleMagnitude: triangle magnitude not above zero";
+    case qspStsBadTonePhase:         return "qspStsBadTonePhase: tone phase outside [0, 2pi)";
+    case qspStsBadToneFrequency:     return "qspStsBadToneFrequency: tone relative frequency outside [0, 0.5)";
+    case qspStsBadToneMagnitude:     return "qspStsBadToneMagnitude: tone magnitude not above zero";
+    case qspStsBadDataType:          return "qspStsBadDataType: a data-type code the function does not support";
+    case qspStsBadRoundMode:         return "qspStsBadRoundMode: a rounding mode other than 0, 1 or 2";
+    case qspStsBadAlgType:           return "qspStsBadAlgType: an algorithm type not 0, 1 or 2";
+    case qspStsWarnNoOperation:      return "qspStsWarnNoOperation: nothing needed doing; the output equals the input";
+    case qspStsWarnDivByZero:        return "qspStsWarnDivByZero: a division met one or more zero divisors";
+    case qspStsWarnOutOfDomain:      return "qspStsWarnOutOfDomain: an element was outside the function's domain";
+    case qspStsWarnLogOfZero:        return "qspStsWarnLogOfZero: a logarithm met a zero argument";
+    case qspStsWarnLogOfNegative:    return "qspStsWarnLogOfNegative: a logarithm met a negative argument";
+    default:                         return status < 0 ? "unknown error" : "unknown warning";
+    }
+}
+
 /* Accuracy hint of some floating-point functions: 1 asks for the fast
  * path; every other value, including 0 and 2, means accurate. Never
  * rejected. */
@@ -105,6 +178,16 @@ enum {
     qspAlgHintNone     = 0,
     qspAlgHintFast     = 1,
     qspAlgHintAccurate = 2
+};
+
+/* Normalisation of the FFT: the flag argument of the FFTGetSize and
+ * FFTInit functions (any other value gives qspStsBadFftFlag). N is the
+ * transform length, 2^order. */
+enum {
+    qspFftDivFwdByN  = 1,  /* the forward transform divided by N, the inverse not */
+    qspFftDivInvByN  = 2,  /* the inverse transform divided by N, the forward not */
+    qspFftDivBySqrtN = 4,  /* both divided by sqrt(N): forward then inverse is the identity */
+    qspFftNoDiv      = 8   /* neither divided: forward then inverse gives N times the input */
 };
 
 /* Data-type codes, used by the size queries of the filters and sorts to
@@ -129,8 +212,8 @@ enum {
 };
 
 /* Rounding of scaled integer results where a function takes a rounding
- * mode (Div_Round, the float-to-integer conversions). A mode above 2 gives
- * qspStsBadRoundMode. */
+ * mode (Div_Round, the float-to-integer conversions). Any other value
+ * gives qspStsBadRoundMode. */
 typedef int QspRoundMode;
 enum {
     qspRndZero      = 0,  /* toward zero */

@@ -1,4 +1,5 @@
-/*
+/* SPDX-License-Identifier: BSD-3-Clause
+ *
  * qsps.h - the functions of libqspsy8, the qsp signal-processing library.
  *
  * This file is generated from api/qsps.api by tools/gen_api.py; edit the
@@ -15,13 +16,21 @@
  *  - Checks, in this order: pointers in parameter order (qspStsNullPtr),
  *    then lengths (qspStsBadSize), then mode arguments. On any error nothing
  *    is written. Warnings are returned after the whole output is written.
- *    The chunking _L functions check their 64-bit length first.
+ *    The chunking _L functions check their 64-bit length first. Status
+ *    values are listed in qspdefs.h; qspStatusText(status) names one.
  *  - Pointers need no particular alignment; 16-byte alignment is the fast
  *    case. Sources and destinations must not overlap unless the function's
  *    block says otherwise.
- *  - Threads: no function keeps state between calls; any function may run on
- *    any number of threads at once as long as no two calls write the same
- *    destination, record or buffer.
+ *  - State and threads: the library keeps no global state and no function
+ *    keeps state between calls, with one exception: qspsFFTInit_C_16fc
+ *    switches flush-to-zero and denormals-are-zero on (through libqspcore's
+ *    qspSetFlushToZero and qspSetDenormAreZeros, in the MXCSR register of
+ *    the calling thread) and leaves them on, so that afterwards denormal
+ *    single and double results of that thread become zero and denormal
+ *    operands read as zero. A program that needs denormals switches them
+ *    back after that call (both libqspcore functions report the previous
+ *    mode). Any function may run on any number of threads at once as long
+ *    as no two calls write the same destination, record or buffer.
  */
 #ifndef QSPS_H
 #define QSPS_H
@@ -515,12 +524,14 @@ QspStatus qspsSubCRev_64fc_I_L(Qsp64fc val, Qsp64fc* pSrcDst, Qsp64s len);
 
 /* AddProduct -------------------------------------------------------------- */
 /*
- * Accumulates a product: pSrcDst[i] += pSrc1[i] * pSrc2[i] (complex: the
- * complex product). Floating forms round the product, then the sum (no fused
- * operation). Integer forms add the exact product to the old value, then scale
- * by 2^-scaleFactor, round to nearest even and saturate. A destination may be
- * the same vector as a source (that is how the I forms run); other overlaps
- * are not allowed. Thread-safe.
+ * pSrcDst[i] = pSrcDst[i] + pSrc1[i] * pSrc2[i] in the floating forms and
+ * pSrcDst[i] = (pSrcDst[i] + pSrc1[i] * pSrc2[i]) * 2^-scaleFactor in the Sfs
+ * forms. Floating forms round the product, then the sum (no fused operation;
+ * complex: the complex product, each part's products rounded before their
+ * sum). Sfs forms form the sum exactly (16s32s: 16-bit sources, 32-bit
+ * accumulator), then scale it, round to nearest even and saturate to the
+ * destination's range. pSrcDst may be the same vector as a source; other
+ * overlaps are not allowed. Thread-safe.
  */
 QspStatus qspsAddProduct_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pSrcDst, int len);
 QspStatus qspsAddProduct_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pSrcDst, int len);
@@ -1174,14 +1185,44 @@ QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, 
  * Forward FFT, X[k] = sum over m of x[m] e^(-2 pi i k m / N), N = 2^order of
  * the record. CToC: complex to complex (interleaved, or split into pSrcRe/
  * pSrcIm and pDstRe/pDstIm for 32f and 64f). RToPack, RToPerm, RToCCS: real
- * signal of N values to its half spectrum in the packed layout named (Pack and
- * Perm hold N values, CCS N+2). Divided by N or sqrt(N) only as the record's
- * flag says. _I forms transform in place (for RToCCS the array holds N+2
- * values), and so does a call whose source equals its destination, with the
- * same results; otherwise source and destination must not overlap. Concurrent
- * calls sharing a record each need their own pBuffer. Checks: null record,
- * then the record's kind (qspStsBadRecord), then the data pointers, then a
- * null pBuffer while the record needs one.
+ * signal of N values to its half spectrum in the packed layout named below.
+ * Divided by N or sqrt(N) only as the record's flag says (qspFftDivFwdByN,
+ * qspFftDivInvByN, qspFftDivBySqrtN, qspFftNoDiv). _I forms transform in place
+ * (for RToCCS the array holds N+2 values), and so does a call whose source
+ * equals its destination, with the same results; otherwise source and
+ * destination must not overlap. Concurrent calls sharing a record each need
+ * their own pBuffer. Checks: null record, then the record's kind
+ * (qspStsBadRecord), then the data pointers, then a null pBuffer while the
+ * record needs one.
+ *
+ * Packed real spectra. The spectrum of N real values is conjugate-symmetric,
+ * X[N-k] = conj(X[k]), so X[0] .. X[N/2] describe it (X[k] = R_k + i I_k).
+ * I_0 is always 0, and so is I_{N/2} when N is even. Three layouts keep these
+ * bins in an array of real values (the FFT has even N from order 1 on; N = 1
+ * and the odd lengths of other transforms and of MulPack, MulPerm and the
+ * Conj functions follow the odd rule):
+ *
+ * (N/2 and (N-1)/2 below are rounded down, so for even N (N-1)/2 = N/2 - 1.)
+ *
+ *   Pack, N values:  p[0] = R_0; p[2k-1] = R_k, p[2k] = I_k for 1 <= k <=
+ *                    (N-1)/2; even N also p[N-1] = R_{N/2}. No zero stored.
+ *   Perm, N values:  even N: p[0] = R_0, p[1] = R_{N/2}, p[2k] = R_k,
+ *                    p[2k+1] = I_k for 1 <= k <= N/2 - 1. Odd N: as Pack.
+ *                    No zero stored.
+ *   CCS, N+2 values (even N) or N+1 (odd N): c[2k] = R_k, c[2k+1] = I_k for
+ *                    0 <= k <= N/2; the zeros c[1] = I_0 and, for even N,
+ *                    c[N+1] = I_{N/2} are stored.
+ *
+ *   index:          0    1    2    3    4    5    6    7    8    9
+ *   N = 8  Pack     R_0  R_1  I_1  R_2  I_2  R_3  I_3  R_4
+ *          Perm     R_0  R_4  R_1  I_1  R_2  I_2  R_3  I_3
+ *          CCS      R_0  0    R_1  I_1  R_2  I_2  R_3  I_3  R_4  0
+ *   N = 7  Pack     R_0  R_1  I_1  R_2  I_2  R_3  I_3
+ *          Perm     R_0  R_1  I_1  R_2  I_2  R_3  I_3
+ *          CCS      R_0  0    R_1  I_1  R_2  I_2  R_3  I_3
+ *   N = 2  Pack     R_0  R_1            (Perm the same)
+ *          CCS      R_0  0    R_1  0
+ *   N = 1  Pack     R_0                 (Perm the same; CCS R_0, 0)
  */
 QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);
@@ -1236,9 +1277,10 @@ QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFT
 
 /* MulPack ----------------------------------------------------------------- */
 /*
- * Multiplies two half spectra in Pack layout bin by bin: pSrcDst = pSrc *
- * pSrcDst, where element 0 (and, for even len, element len-1) are real and the
- * pairs in between complex. len is the packed length (N values).
+ * Multiplies two half spectra in Pack layout (index table under FFTFwd) bin by
+ * bin: pSrcDst = pSrc * pSrcDst, where element 0 (and, for even len, element
+ * len-1) are real and the pairs in between complex. len is the packed length
+ * (N values, even or odd).
  */
 QspStatus qspsMulPack_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
 QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
@@ -1246,16 +1288,17 @@ QspStatus qspsMulPack_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
 /* MulPackConj ------------------------------------------------------------- */
 /*
  * As MulPack, with the in-place operand conjugated: pSrcDst = pSrc *
- * conj(pSrcDst), bin by bin, in Pack layout.
+ * conj(pSrcDst), bin by bin, in Pack layout (index table under FFTFwd).
  */
 QspStatus qspsMulPackConj_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
 QspStatus qspsMulPackConj_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
 
 /* MulPerm ----------------------------------------------------------------- */
 /*
- * Multiplies two half spectra in Perm layout bin by bin: pDst = pSrc1 * pSrc2,
- * or in place pSrcDst = pSrc * pSrcDst. Element 0 and, for even len, element 1
- * are real; the complex pairs follow. len is the packed length (N values).
+ * Multiplies two half spectra in Perm layout (index table under FFTFwd) bin by
+ * bin: pDst = pSrc1 * pSrc2, or in place pSrcDst = pSrc * pSrcDst. Element 0
+ * and, for even len, element 1 are real; the complex pairs follow. len is the
+ * packed length (N values; for odd len Perm is Pack and so is the result).
  */
 QspStatus qspsMulPerm_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int len);
 QspStatus qspsMulPerm_32f_I(const Qsp32f* pSrc, Qsp32f* pSrcDst, int len);
@@ -1264,11 +1307,12 @@ QspStatus qspsMulPerm_64f_I(const Qsp64f* pSrc, Qsp64f* pSrcDst, int len);
 
 /* ConjPerm ---------------------------------------------------------------- */
 /*
- * Expands a half spectrum in Perm layout (real values) into the complete
- * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
- * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
- * values from the start of pSrcDst and writes the len complex values over them
- * (the array holds len complex values).
+ * Expands a half spectrum in Perm layout (real values; index table under
+ * FFTFwd) into the complete conjugate-symmetric spectrum of len complex
+ * values: pDst[k] = X[k] for the stored bins and conj(X[len-k]) for the
+ * others. The _I form reads the packed values from the start of pSrcDst and
+ * writes the len complex values over them (the array holds len complex
+ * values).
  */
 QspStatus qspsConjPerm_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjPerm_32fc_I(Qsp32fc* pSrcDst, int len);
@@ -1277,12 +1321,12 @@ QspStatus qspsConjPerm_64fc_I(Qsp64fc* pSrcDst, int len);
 
 /* ConjPack ---------------------------------------------------------------- */
 /*
- * Expands a half spectrum in Pack layout (real values) into the complete
- * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
- * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
- * values from the start of pSrcDst and writes the len complex values over them
- * (the array holds len complex values). _L forms take a 64-bit length
- * and run in one pass.
+ * Expands a half spectrum in Pack layout (real values; index table under
+ * FFTFwd) into the complete conjugate-symmetric spectrum of len complex
+ * values: pDst[k] = X[k] for the stored bins and conj(X[len-k]) for the
+ * others. The _I form reads the packed values from the start of pSrcDst and
+ * writes the len complex values over them (the array holds len complex
+ * values). _L forms take a 64-bit length and run in one pass.
  */
 QspStatus qspsConjPack_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjPack_32fc_I(Qsp32fc* pSrcDst, int len);
@@ -1295,12 +1339,12 @@ QspStatus qspsConjPack_64fc_I_L(Qsp64fc* pSrcDst, Qsp64s len);
 
 /* ConjCcs ----------------------------------------------------------------- */
 /*
- * Expands a half spectrum in CCS layout (real values) into the complete
- * conjugate-symmetric spectrum of len complex values: pDst[k] = X[k] for the
- * stored bins and conj(X[len-k]) for the others. The _I form reads the packed
- * values from the start of pSrcDst and writes the len complex values over them
- * (the array holds len complex values). _L forms take a 64-bit length
- * and run in one pass.
+ * Expands a half spectrum in CCS layout (real values; index table under
+ * FFTFwd) into the complete conjugate-symmetric spectrum of len complex
+ * values: pDst[k] = X[k] for the stored bins and conj(X[len-k]) for the
+ * others. The _I form reads the packed values from the start of pSrcDst and
+ * writes the len complex values over them (the array holds len complex
+ * values). _L forms take a 64-bit length and run in one pass.
  */
 QspStatus qspsConjCcs_32fc(const Qsp32f* pSrc, Qsp32fc* pDst, int len);
 QspStatus qspsConjCcs_32fc_I(Qsp32fc* pSrcDst, int len);

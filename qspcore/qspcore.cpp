@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // libqspcore: aligned allocation, processor-feature query, denormal controls.
 #include "qspcore.h"
 

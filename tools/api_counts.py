@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: BSD-3-Clause
 """Counts the exports of the API table by suffix and by type code.
 
 How a name is counted. The name is cut at its underscores after the prefix
@@ -18,9 +19,19 @@ the stem and not a type code). Of the remaining pieces:
     IPSfs) and the mode words (L1, L2, L2Sqr, ...) are not suffixes;
   - every other piece is a mode word (CToC, LTVal, BiQuad, ...).
 
-Usage: api_counts.py TABLE [--expect-total N] [--markdown OUT]
-Exit status 1 when a name repeats, a name does not start with qsps, or the
-total differs from --expect-total.
+It also writes the two pages generated from the table: the families page
+(--markdown, docs/api.md) and the section of the README that says which
+families exist and which are planned (--readme, README.md; the text between
+the lines README_BEGIN and README_END below is replaced). One command
+brings both up to date after rows change:
+
+    python3 tools/api_counts.py api/qsps.api --markdown docs/api.md --readme README.md
+
+With --check the files are compared instead of written.
+
+Usage: api_counts.py TABLE [--expect-total N] [--markdown OUT] [--readme FILE] [--check]
+Exit status 1 when a name repeats, a name does not start with qsps, the
+total differs from --expect-total, or (--check) a page is not current.
 """
 import argparse
 import collections
@@ -150,11 +161,82 @@ def markdown(families, by_suffix, by_type, total):
     return '\n'.join(out)
 
 
+README_BEGIN = '<!-- families: generated from api/qsps.api by tools/api_counts.py; do not edit -->'
+README_END = '<!-- end of the generated families -->'
+REGENERATE = 'python3 tools/api_counts.py api/qsps.api --markdown docs/api.md --readme README.md'
+
+
+def readme_section(families, total):
+    """The README's list of families by source folder, available and planned."""
+    done = sum(e.implemented for fam in families for e in fam.exports)
+    folders = []
+    for fam in families:
+        if fam.folder not in folders:
+            folders.append(fam.folder)
+    out = [README_BEGIN, '']
+    w = out.append
+    w('%s of the %s functions of the interface are implemented and exported;' % (
+        format(done, ','), format(total, ',')))
+    w('the others are planned: they are listed in the API table and not yet in')
+    w('the library or its header. A family shows its count of functions, and')
+    w('"d of n" while only some of them exist; a folder with no available')
+    w('family exports nothing yet. After rows of `api/qsps.api` change, one')
+    w('command regenerates this list and `docs/api.md`:')
+    w('')
+    w('```sh')
+    w(REGENERATE)
+    w('```')
+    w('')
+    w('| Folder | Available | Planned |')
+    w('|---|---|---|')
+    for folder in folders:
+        available, planned = [], []
+        for fam in (f for f in families if f.folder == folder):
+            n = len(fam.exports)
+            d = sum(e.implemented for e in fam.exports)
+            if d == n:
+                available.append('%s (%d)' % (fam.name, n))
+            elif d:
+                available.append('%s (%d of %d)' % (fam.name, d, n))
+            else:
+                planned.append('%s (%d)' % (fam.name, n))
+        w('| `src/%s` | %s | %s |' % (folder, ', '.join(available), ', '.join(planned)))
+    w('')
+    w(README_END)
+    return '\n'.join(out)
+
+
+def with_readme_section(text, section):
+    begin, end = text.find(README_BEGIN), text.find(README_END)
+    if begin < 0 or end < begin:
+        raise SyntaxError('the README lacks the lines "%s" and "%s"' % (README_BEGIN, README_END))
+    return text[:begin] + section + text[end + len(README_END):]
+
+
+def update(path, text, check):
+    """Writes text to path, or with check tells whether path holds it."""
+    try:
+        with open(path, encoding='utf-8') as f:
+            old = f.read()
+    except FileNotFoundError:
+        old = None
+    if old == text:
+        return True
+    if check:
+        print('error: %s is not current; run: %s' % (path, REGENERATE))
+        return False
+    with open(path, 'w', encoding='utf-8') as f:
+        f.write(text)
+    return True
+
+
 def main():
     ap = argparse.ArgumentParser(description='Counts the exports of the API table.')
     ap.add_argument('table')
     ap.add_argument('--expect-total', type=int)
     ap.add_argument('--markdown', metavar='OUT', help='write the families page to OUT')
+    ap.add_argument('--readme', metavar='FILE', help='update the list of families in FILE')
+    ap.add_argument('--check', action='store_true', help='compare the pages instead of writing them')
     a = ap.parse_args()
 
     try:
@@ -180,8 +262,15 @@ def main():
         print('error: %d rows, expected %d' % (total, a.expect_total))
         ok = False
     if a.markdown:
-        with open(a.markdown, 'w', encoding='utf-8') as f:
-            f.write(markdown(families, by_suffix, by_type, total))
+        ok = update(a.markdown, markdown(families, by_suffix, by_type, total), a.check) and ok
+    if a.readme:
+        with open(a.readme, encoding='utf-8') as f:
+            text = f.read()
+        try:
+            ok = update(a.readme, with_readme_section(text, readme_section(families, total)), a.check) and ok
+        except SyntaxError as err:
+            print('error: %s' % err)
+            ok = False
     return 0 if ok else 1
 
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: BSD-3-Clause
 """Makes, from the API table, the three files that must agree with it:
 
   header       include/qsps.h: the public declarations of the implemented
@@ -25,7 +26,8 @@ import qspapi  # noqa: E402
 WIDENED = {'Qsp16s': 'int', 'Qsp16u': 'int'}
 
 HEADER_TOP = """\
-/*
+/* SPDX-License-Identifier: BSD-3-Clause
+ *
  * qsps.h - the functions of libqspsy8, the qsp signal-processing library.
  *
  * This file is generated from api/qsps.api by tools/gen_api.py; edit the
@@ -42,13 +44,21 @@ HEADER_TOP = """\
  *  - Checks, in this order: pointers in parameter order (qspStsNullPtr),
  *    then lengths (qspStsBadSize), then mode arguments. On any error nothing
  *    is written. Warnings are returned after the whole output is written.
- *    The chunking _L functions check their 64-bit length first.
+ *    The chunking _L functions check their 64-bit length first. Status
+ *    values are listed in qspdefs.h; qspStatusText(status) names one.
  *  - Pointers need no particular alignment; 16-byte alignment is the fast
  *    case. Sources and destinations must not overlap unless the function's
  *    block says otherwise.
- *  - Threads: no function keeps state between calls; any function may run on
- *    any number of threads at once as long as no two calls write the same
- *    destination, record or buffer.
+ *  - State and threads: the library keeps no global state and no function
+ *    keeps state between calls, with one exception: qspsFFTInit_C_16fc
+ *    switches flush-to-zero and denormals-are-zero on (through libqspcore's
+ *    qspSetFlushToZero and qspSetDenormAreZeros, in the MXCSR register of
+ *    the calling thread) and leaves them on, so that afterwards denormal
+ *    single and double results of that thread become zero and denormal
+ *    operands read as zero. A program that needs denormals switches them
+ *    back after that call (both libqspcore functions report the previous
+ *    mode). Any function may run on any number of threads at once as long
+ *    as no two calls write the same destination, record or buffer.
  */
 #ifndef QSPS_H
 #define QSPS_H
@@ -89,7 +99,8 @@ def validator_params(e):
 
 
 def validators(families):
-    out = ['// Generated from api/qsps.api by tools/gen_api.py.\n',
+    out = ['// SPDX-License-Identifier: BSD-3-Clause\n',
+           '// Generated from api/qsps.api by tools/gen_api.py.\n',
            '// The validating function of every export: it checks the arguments in\n',
            '// the fixed order, serves trivial cases and chooses the kernel.\n',
            '#pragma once\n#include "qspdefs.h"\n\nnamespace y8 {\n']
@@ -100,7 +111,8 @@ def validators(families):
 
 
 def entries(families):
-    out = ['// Generated from api/qsps.api by tools/gen_api.py.\n',
+    out = ['// SPDX-License-Identifier: BSD-3-Clause\n',
+           '// Generated from api/qsps.api by tools/gen_api.py.\n',
            '// Each export forwards its arguments unchanged to its validating\n',
            '// function, which the compiler turns into a single jump.\n',
            '#include "qsps.h"\n#include "qsp_validators.h"\n\n',

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 """Reader of the API table, api/qsps.api: the one list of every export of
 libqspsy8 with its family and C signature, and whether it is implemented.
 

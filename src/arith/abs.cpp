@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Abs: magnitudes of real elements; integers saturate (the most negative
 // value gives the largest positive one), floating values lose their sign
 // bit (NaN payloads kept, -0.0 becomes +0.0).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Add: element-wise sums, floating, saturating and scaled integer.
 #include "forms.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // AddProduct: pSrcDst[i] += pSrc1[i] * pSrc2[i]. Floating: the product
 // rounded, then the sum (complex: the complex product, then the sums).
 // Integer: the old value plus the exact product, scaled, rounded to

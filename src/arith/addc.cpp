@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // AddC: a constant added to every element.
 #include "forms.h"
 

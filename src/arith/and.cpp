@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // And: bitwise and of two vectors, or of a vector and a constant (AndC).
 #include "forms.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Complex quotients b / a of floating elements. Single precision works in
 // double, where the products are exact and nothing overflows or underflows:
 // each part is its numerator times the reciprocal of |a|^2 (within 2^-51

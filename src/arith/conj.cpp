@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Conj: complex conjugates, the imaginary part negated (16sc saturates:
 // -32768 becomes 32767; floating parts have their sign bit flipped, so
 // NaN payloads and signed zeros are kept).

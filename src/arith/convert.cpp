@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Convert: element type conversions. Widening ones are exact; integer to
 // floating ones round as the floating type does (to nearest even);
 // narrowing integer ones saturate; scaled ones (Sfs) apply the scale-factor
@@ -121,10 +122,8 @@ QspStatus floatToInt(const S* pSrc, D* pDst, int len, QspRoundMode rndMode, int 
             if (k >= 0x1p-126 && k <= 0x1p127) ownsConvert_32f16<M, true>(pSrc, pDst, len, k);
             else ownsConvert_32f16<M, false>(pSrc, pDst, len, k);
         } else {
-            for (int i = 0; i < len; ++i) {
-                const double x = rounding::ldexp(double(pSrc[i]), -scaleFactor);
-                pDst[i] = D(toBounded<M, D, Bits>(x));
-            }
+            const auto k = rounding::PowerOfTwo::scaleFactor(scaleFactor);
+            for (int i = 0; i < len; ++i) pDst[i] = D(toBounded<M, D, Bits>(k(double(pSrc[i]))));
         }
     });
 }
@@ -171,7 +170,8 @@ QspStatus intScaled(const S* pSrc, D* pDst, int len, int scaleFactor, Store stor
 template <class S, class D>
 QspStatus intToFloatScaled(const S* pSrc, D* pDst, int len, int scaleFactor)
 {
-    return each(pSrc, pDst, len, [=](S x) { return D(rounding::ldexp(double(x), -scaleFactor)); });
+    const auto k = rounding::PowerOfTwo::scaleFactor(scaleFactor);
+    return each(pSrc, pDst, len, [=](S x) { return D(k(double(x))); });
 }
 
 template <int Bits>

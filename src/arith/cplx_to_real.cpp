@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // CplxToReal: a complex vector split into its real and imaginary parts.
 #include "forms.h"
 

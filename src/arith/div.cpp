@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Div: element-wise quotients, the second source divided by the first. A
 // zero divisor element does not stop the work: the whole output is written
 // and the warning qspStsWarnDivByZero returned.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Div_Round: Div of 8- and 16-bit integers with the rounding of the scaled
 // quotient chosen by the caller: toward zero, to nearest even, or to
 // nearest with ties away from zero. A mode other than these three is an

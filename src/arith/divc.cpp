@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // DivC: every element divided by a constant. A zero constant is an error
 // (floating: one that compares equal to 0.0, -0.0 included); the floating
 // forms multiply by the reciprocal, computed once in the element precision,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // DivCRev: a constant divided by every element. Zero elements give the
 // warning qspStsWarnDivByZero after the whole output is written.
 #include "forms.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Loop drivers of the element-wise kernels. A family describes its
 // operation once, as an operation object, and a driver runs it over the
 // vectors: full registers first (unrolled), then the tail element by

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The validating functions of the element-wise forms, written once: checks
 // in the library's order (pointers in parameter order, then the length,
 // then mode arguments), the kernel chosen once, then the run. A family's

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // IEEE half precision (binary16) held as its bit pattern: narrowing from
 // single precision in any of the three rounding modes (the shared
 // conversion in mathfn/half.h rounds to nearest only), and its exact

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // LShiftC: every element shifted left by a constant count (see shift.h for
 // the order of the count, pointer and length checks).
 #include "shift.h"

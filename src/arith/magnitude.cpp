@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Magnitude: |z| = sqrt(re^2 + im^2) of complex elements, interleaved or
 // as separate parts. Single precision works in double (the squares and
 // their sum cannot overflow there, and the result is rounded once more to

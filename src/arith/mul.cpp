@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Mul: element-wise products, real, complex, mixed and scaled integer.
 #include "forms.h"
 

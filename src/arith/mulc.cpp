@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MulC: every element multiplied by a constant, floating, scaled integer
 // (the complex 16-bit constant -32768 - 32768i by its own kernels), float
 // to scaled 16-bit, and the 64-bit length forms with kernels of their own.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Normalize: (x - vSub) / vDiv. A zero vDiv is an error, checked after the
 // pointers and the length. Floating results: the difference rounded, then
 // the quotient. The 16-bit forms divide the exact difference exactly,

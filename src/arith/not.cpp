@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Not: bitwise complement of every element.
 #include "forms.h"
 

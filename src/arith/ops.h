@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The element operations shared by the arithmetic families, written once
 // for every register and scalar type they run on:
 //   reg(a, b)   on a register: float, double, interleaved complex parts, or

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Or: bitwise or of two vectors, or of a vector and a constant (OrC).
 #include "forms.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Phase: the angle atan2(im, re) of complex elements, in radians, from
 // interleaved or separate parts, computed in double precision (within 2.5
 // ULP for double results; single results are that angle rounded once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // PowerSpectr: re^2 + im^2 of complex elements, interleaved or as separate
 // parts. Floating results: both squares rounded, then their sum (within
 // 1.5 ULP). The scaled 16-bit form takes the exact sum of squares.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Integer quotients under the scale-factor rule: num / den * 2^-scaleFactor
 // rounded in one of the three rounding modes (toward zero, to nearest even,
 // to nearest with ties away from zero) and saturated. A zero divisor gives

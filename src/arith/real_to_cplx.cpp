@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // RealToCplx: two real vectors joined into a complex one. Either source
 // may be null; its part is then zero. The kernel for the present sources
 // is chosen once per call.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Square roots for the Sqrt and Magnitude families: the scale-factor rule
 // applied exactly to the square root of a non-negative integer, and the
 // floating roots and magnitudes that must neither overflow nor underflow

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Floating-to-integer results: scaling by 2^-scaleFactor, rounding by one
 // of the three rounding modes and saturation to the destination type. The
 // work is done in double precision, where every single-precision value
@@ -26,14 +27,29 @@ constexpr double pow2(int e)
     return __builtin_bit_cast(double, Qsp64u(e + 1023) << 52);
 }
 
-// x * 2^e for any e, exact whenever the result is a normal double (the
-// factor is applied in steps that stay inside the exponent range).
-inline double ldexp(double x, int e)
-{
-    while (e > 1000) x *= pow2(1000), e -= 1000;
-    while (e < -1000) x *= pow2(-1000), e += 1000;
-    return x * pow2(e);
-}
+// Multiplication by 2^-scaleFactor for every int scale factor, as two
+// multiplications by normal powers of two prepared once per call, so that
+// the cost per element never depends on the scale factor. The exponent is
+// clamped to -2044 .. 2046, beyond which no caller's result changes: a
+// finite double (at least 2^-1074, below 2^1024) scaled by 2^2046 lies above
+// every 64-bit integer and scaled by 2^-2044 rounds to 0 in every mode, and
+// an integer source (magnitude 1 to 2^63) overflows every floating type or
+// vanishes below its smallest subnormal. Inside the range both steps go
+// the same way: scaling up is exact until it overflows, and scaling down
+// is exact until it leaves the normal range, below which every integer
+// result is 0; so the result is rounded once wherever it matters (integer
+// sources stay at least 2^-1022 after the first step).
+struct PowerOfTwo {
+    double first, second;
+
+    static PowerOfTwo scaleFactor(int scaleFactor)
+    {
+        const int e = scaleFactor > 2044 ? -2044 : scaleFactor < -2046 ? 2046 : -scaleFactor;
+        const int half = e / 2;  // toward zero, so both halves lie in -1022 .. 1023
+        return {pow2(half), pow2(e - half)};
+    }
+    double operator()(double x) const { return x * first * second; }
+};
 
 // The factor 2^-scaleFactor. Beyond +-400 every product of finite
 // single-precision values rounds to 0 or saturates, and a double value

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // RShiftC: every element shifted right (arithmetically for signed types,
 // logically for unsigned ones) by a constant count (see shift.h for
 // the order of the count, pointer and length checks).

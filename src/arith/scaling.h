@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The integer scale-factor rule, implemented once for every Sfs function.
 //
 // An Sfs function forms the exact result v of its operation in a wider

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Shifts of every element by one count, for LShiftC and RShiftC: the
 // kernels and the validating order both families share. The count is
 // examined before the other checks: 0 is a copy and the element width or

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sqr: every element squared (complex: the complex square).
 #include "forms.h"
 

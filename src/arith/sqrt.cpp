@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sqrt: square roots. A negative real element gives NaN (floating) or 0
 // (integer) and the warning qspStsWarnOutOfDomain once the whole output is
 // written; -0.0 and NaN are not negative. Integer results are the exact

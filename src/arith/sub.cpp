@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sub: element-wise differences, the second source minus the first.
 #include "forms.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SubC: a constant subtracted from every element.
 #include "forms.h"
 

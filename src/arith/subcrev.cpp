@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SubCRev: every element subtracted from a constant.
 #include "forms.h"
 

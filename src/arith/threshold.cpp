@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Threshold: elements compared with a level and replaced. Real forms
 // compare values (Abs forms their magnitudes); complex forms compare
 // magnitudes and keep the phase. A NaN element compares false and stays.

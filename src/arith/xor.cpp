@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Xor: bitwise exclusive or of two vectors, or of a vector and a constant (XorC).
 #include "forms.h"
 

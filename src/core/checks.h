@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The argument checks shared by every validating function, in the one
 // order the library uses: pointers in parameter order, then lengths, then
 // mode arguments. Each returns qspStsOk or the error status, so a

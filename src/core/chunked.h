@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The one implementation of the chunking _L functions: a 64-bit length is
 // cut into consecutive chunks that the ordinary 32-bit function can take,
 // each chunk's byte count fitting in a signed 32-bit integer.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Copy: a byte copy of len elements, without overlap guarantee.
 #include "checks.h"
 #include "chunked.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // CopyLE_1u / CopyBE_1u: a run of bits copied between arbitrary bit
 // offsets, the destination bits around the run kept.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Flip: elements in reverse order, out of place or where they stand.
 // Elements are moved as bit patterns of their size (a complex element as a
 // whole), so one kernel pair per element size serves every type.

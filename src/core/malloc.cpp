@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Typed allocation: an element count becomes a byte count for the support
 // library, within the limits of the size type.
 #include "qspcore.h"

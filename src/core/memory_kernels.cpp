@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "memory_kernels.h"
 
 #include "simd.h"
@@ -6,33 +7,49 @@ namespace {
 
 using V = simd::Vec<Qsp8u>;
 using Reg = V::Reg;
+using memory::kChunkedMoveDistance;
+using memory::kPageAliasBytes;
+using memory::kReplicateBytes;
+using memory::kStreamCopyBytes;
+using memory::kStringCopyBytes;
+using memory::kStringFillBytes;
 
-// Above this many bytes a fill or copy bypasses the caches: the data would
-// evict most of the last-level cache anyway, and non-temporal stores save
-// the read of every destination line.
-constexpr Qsp64s kStreamBytes = Qsp64s(32) << 20;
-
-// From this size up to kStreamBytes the processor's string instructions
-// move data faster than 16-byte registers can: on processors with fast
-// string operations they write whole cache lines at a time.
-constexpr Qsp64s kStringBytes = 2048;
-
+// The string instructions, with the direction flag clear as the ABI keeps
+// it. Each acts as if it moved or stored one unit after another from the
+// first to the last, whatever the processor does inside: so rep movsb with
+// the destination below the source is a correct move for any overlap, and
+// with the destination k bytes above the source it repeats the first k
+// bytes over the whole count.
 inline void repMovsb(const Qsp8u* s, Qsp8u* d, Qsp64s n)
 {
     __asm__ volatile("rep movsb" : "+D"(d), "+S"(s), "+c"(n) : : "memory");
 }
-
-// Stores `words` copies of an 8-byte value.
+inline void repStosb(Qsp8u* d, Qsp8u value, Qsp64s n)
+{
+    __asm__ volatile("rep stosb" : "+D"(d), "+c"(n) : "a"(value) : "memory");
+}
 inline void repStosq(Qsp8u* d, Qsp64u value, Qsp64s words)
 {
     __asm__ volatile("rep stosq" : "+D"(d), "+c"(words) : "a"(value) : "memory");
 }
 
-// True when the pattern's two halves are equal, so an 8-byte fill serves
-// (every element size up to 8 bytes).
+// True when the pattern's two halves are equal (every value of up to 8
+// bytes), and when all its bytes are.
 inline bool isEightByteSplat(Reg pattern)
 {
-    return _mm_movemask_epi8(_mm_cmpeq_epi64(pattern, _mm_unpacklo_epi64(pattern, pattern))) == 0xFFFF;
+    return V::anyMask(_mm_cmpeq_epi64(pattern, _mm_unpacklo_epi64(pattern, pattern))) == 0xFFFF;
+}
+inline bool isByteSplat(Reg pattern)
+{
+    return V::anyMask(V::cmpeq(pattern, V::shuffleBytes(pattern, V::zero()))) == 0xFFFF;
+}
+
+// False when the destination lies 1 to kPageAliasBytes - 1 bytes above the
+// source modulo 4 KiB, where rep movsb slows many times over.
+inline bool stringCopyIsFast(const Qsp8u* s, const Qsp8u* d)
+{
+    const Qsp64u ahead = (reinterpret_cast<Qsp64u>(d) - reinterpret_cast<Qsp64u>(s)) & 4095;
+    return ahead == 0 || ahead >= Qsp64u(kPageAliasBytes);
 }
 
 inline Qsp64s misalignment(const void* p) { return reinterpret_cast<Qsp64u>(p) & 15; }
@@ -74,6 +91,7 @@ struct Block64 {
     {
         return {V::loadu(p), V::loadu(p + 16), V::loadu(p + 32), V::loadu(p + 48)};
     }
+    static Block64 splat(Reg r) { return {r, r, r, r}; }
     void storeu(Qsp8u* p) const
     {
         V::storeu(p, r0), V::storeu(p + 16, r1), V::storeu(p + 32, r2), V::storeu(p + 48, r3);
@@ -118,29 +136,28 @@ void moveBackward(const Qsp8u* s, Qsp8u* d, Qsp64s n)
     V::storeu(d + n - 16, tail);
 }
 
-template <bool Stream>
-void fillAligned(Reg pattern, Qsp8u* p, Qsp8u* end)
+// A destination at least `distance` above its source, back to front in
+// chunks of that distance: no chunk overlaps itself, and each one is read
+// before the chunks below it are written over it.
+void moveUpInChunks(const Qsp8u* s, Qsp8u* d, Qsp64s n, Qsp64s distance)
 {
-    for (; end - p >= 64; p += 64) {
-        if constexpr (Stream) {
-            V::stream(p, pattern), V::stream(p + 16, pattern);
-            V::stream(p + 32, pattern), V::stream(p + 48, pattern);
-        } else {
-            V::store(p, pattern), V::store(p + 16, pattern);
-            V::store(p + 32, pattern), V::store(p + 48, pattern);
-        }
+    for (Qsp64s end = n; end > 0;) {
+        const Qsp64s chunk = end < distance ? end : distance;
+        end -= chunk;
+        repMovsb(s + end, d + end, chunk);
     }
-    for (; end - p >= 16; p += 16) V::store(p, pattern);
-    if constexpr (Stream) _mm_sfence();
 }
 
-// The pattern as it must stand at a position `shift` bytes into the fill.
-Reg rotated(Reg pattern, Qsp64s shift)
+// 16 bytes or more from registers: unaligned stores at every multiple of
+// 16 and a last one ending at the end. All of them stand at multiples of
+// the pattern's period, so the pattern needs no rotation.
+void fillFromRegisters(Reg pattern, Qsp8u* d, Qsp64s n)
 {
-    alignas(16) Qsp8u twice[32];
-    V::store(twice, pattern);
-    V::store(twice + 16, pattern);
-    return V::loadu(twice + (shift & 15));
+    const Block64 block = Block64::splat(pattern);
+    Qsp64s i = 0;
+    for (; n - i > 64; i += 64) block.storeu(d + i);
+    for (; n - i > 16; i += 16) V::storeu(d + i, pattern);
+    V::storeu(d + n - 16, pattern);
 }
 
 }  // namespace
@@ -151,21 +168,19 @@ void ownsFill_128(__m128i pattern, Qsp8u* pDst, Qsp64s bytes)
         alignas(16) Qsp8u bytesOfPattern[16];
         V::store(bytesOfPattern, pattern);
         for (Qsp64s i = 0; i < bytes; ++i) pDst[i] = bytesOfPattern[i];
-        return;
-    }
-    if (bytes >= kStringBytes && bytes < kStreamBytes && isEightByteSplat(pattern)) {
+    } else if (bytes < kStringFillBytes) {
+        fillFromRegisters(pattern, pDst, bytes);
+    } else if (isByteSplat(pattern)) {
+        repStosb(pDst, Qsp8u(_mm_cvtsi128_si32(pattern)), bytes);
+    } else if (isEightByteSplat(pattern)) {
+        // The bytes the 8-byte stores leave over (a 2- or 4-byte value):
+        // one store of the last 16.
         repStosq(pDst, Qsp64u(_mm_cvtsi128_si64(pattern)), bytes / 8);
-        // The bytes the 8-byte stores leave over: one store of the last 16.
-        V::storeu(pDst + bytes - 16, rotated(pattern, bytes - 16));
-        return;
+        V::storeu(pDst + bytes - 16, pattern);
+    } else {
+        fillFromRegisters(pattern, pDst, kReplicateBytes);
+        repMovsb(pDst, pDst + kReplicateBytes, bytes - kReplicateBytes);
     }
-    V::storeu(pDst, pattern);
-    const Qsp64s skip = (16 - misalignment(pDst)) & 15;
-    const Reg inPhase = rotated(pattern, skip);
-    Qsp8u* end = pDst + bytes;
-    if (bytes >= kStreamBytes) fillAligned<true>(inPhase, pDst + skip, end);
-    else fillAligned<false>(inPhase, pDst + skip, end);
-    V::storeu(end - 16, rotated(pattern, bytes - 16));
 }
 
 void ownsZero_8u(Qsp8u* pDst, Qsp64s bytes)
@@ -176,8 +191,8 @@ void ownsZero_8u(Qsp8u* pDst, Qsp64s bytes)
 void ownsCopy_8u_L(const Qsp8u* pSrc, Qsp8u* pDst, Qsp64s bytes)
 {
     if (bytes <= 64) moveUpTo64(pSrc, pDst, bytes);
-    else if (bytes >= kStreamBytes) moveForward<true>(pSrc, pDst, bytes);
-    else if (bytes >= kStringBytes) repMovsb(pSrc, pDst, bytes);
+    else if (bytes >= kStreamCopyBytes) moveForward<true>(pSrc, pDst, bytes);
+    else if (bytes >= kStringCopyBytes && stringCopyIsFast(pSrc, pDst)) repMovsb(pSrc, pDst, bytes);
     else moveForward<false>(pSrc, pDst, bytes);
 }
 
@@ -187,6 +202,12 @@ void ownsMove_8u(const Qsp8u* pSrc, Qsp8u* pDst, Qsp64s bytes)
     if (bytes <= 64) return moveUpTo64(pSrc, pDst, bytes);
     const bool overlap = pDst < pSrc + bytes && pSrc < pDst + bytes;
     if (!overlap) return ownsCopy_8u_L(pSrc, pDst, bytes);
-    if (pSrc > pDst) moveForward<false>(pSrc, pDst, bytes);
+    if (pDst < pSrc) {
+        if (bytes >= kStringCopyBytes && stringCopyIsFast(pSrc, pDst)) repMovsb(pSrc, pDst, bytes);
+        else moveForward<false>(pSrc, pDst, bytes);
+        return;
+    }
+    const Qsp64s distance = pDst - pSrc;
+    if (distance >= kChunkedMoveDistance && stringCopyIsFast(pSrc, pDst)) moveUpInChunks(pSrc, pDst, bytes, distance);
     else moveBackward(pSrc, pDst, bytes);
 }

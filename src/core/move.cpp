@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Move: a copy that is correct for any overlap of source and destination.
 #include "checks.h"
 #include "memory_kernels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Set: every element takes the value's exact bit pattern (-0.0 and NaN
 // payloads included), written by the pattern fill kernel.
 #include "checks.h"

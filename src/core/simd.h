@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The 128-bit vector layer. Kernels are written against Vec<T>, a traits
 // type per element type, instead of raw intrinsics, so that the same
 // algorithm can later be built for wider vectors by adding another layer

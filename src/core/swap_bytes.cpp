@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SwapBytes: byte order reversed inside every element (endianness
 // conversion); a three-byte element exchanges its first and third bytes.
 #include "checks.h"

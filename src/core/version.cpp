@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The library's constant version record.
 #include "qsp_validators.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Zero: every element set to all-zero bits, by the byte fill kernel.
 #include "checks.h"
 #include "chunked.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Two-argument arctangent in double precision, for the phase of complex
 // values. No library calls: the argument is reduced to [0, 1] by symmetry,
 // then to |u| <= 1/16 around the nearest k/8 by

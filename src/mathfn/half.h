@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // IEEE binary16 <-> binary32 conversion in software (the library's
 // instruction set has no half-precision conversions).
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Natural logarithm of a positive finite double, within 2 ULP.
 //
 // x = m * 2^e with m in [sqrt(1/2), sqrt(2)) taken from the bits; then

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sine and cosine of pi times an argument, in double precision.
 //
 // sinCosPi(x) returns sin(pi*x) and cos(pi*x) within 1 ULP for every finite

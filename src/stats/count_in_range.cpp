@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // CountInRange: the number of elements with lowerBound <= x <= upperBound.
 // NaN elements are never counted; a bound above the other is
 // qspStsBadRange (checked after the pointers and the length).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // DotProd: the sum of the products of the elements of two vectors, without
 // conjugation.
 #include "qsp_validators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The extremum search shared by the Max, Min, MinMax, their index and
 // magnitude forms: the kernels, and the validating steps that all of these
 // families have in common.

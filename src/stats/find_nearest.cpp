@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // FindNearest, FindNearestOne: for a value, the nearest entry of an
 // ascending table and its index, ties (equal distances, equal entries) to
 // the lower index. A binary search finds the first entry not below the

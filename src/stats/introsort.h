@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // An in-place comparison sort with no allocation and no library calls:
 // quicksort with a median-of-three pivot, a heapsort once the partitions
 // have gone too deep (so the worst case stays n log n), and insertion sort

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Max: the largest element of a vector, by the lane step of the value search.
 #include "extremum.h"
 #include "qsp_validators.h"

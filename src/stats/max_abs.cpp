@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MaxAbs: the largest magnitude in a vector, by the lane step of the value
 // search.
 #include "extremum.h"

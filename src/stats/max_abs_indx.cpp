@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MaxAbsIndx: the largest magnitude in a vector and the lowest index holding
 // it.
 #include "extremum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MaxEvery: the element-wise maximum of two vectors.
 #include "extremum.h"
 #include "qsp_validators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MaxIndx: the largest element of a vector and the lowest index holding it.
 #include "extremum.h"
 #include "qsp_validators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Mean: the mean of the elements of a vector, the sum divided by the length
 // in double.
 #include "qsp_validators.h"

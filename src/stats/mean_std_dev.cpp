@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MeanStdDev: the mean and the sample standard deviation of a vector from
 // one pair of sums.
 #include "qsp_validators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MinAbs: the smallest magnitude in a vector, by the lane step of the value
 // search.
 #include "extremum.h"

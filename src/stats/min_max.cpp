@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MinMax: the smallest and the largest element of a vector in one pass.
 #include "extremum.h"
 #include "qsp_validators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MinMaxIndx: the smallest and the largest element of a vector with the
 // lowest index of each. Two passes: the values by the one-pass search, then
 // the positions, each the first element from index 0 that compares equal to

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Norm: the infinity, L1 and L2 norms of a vector, and the squared L2 norm.
 #include "norms.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // NormDiff: the norms of the difference pSrc1[i] - pSrc2[i] of two vectors,
 // formed in the element type (16-bit differences exactly, as int), by the
 // accumulation of Norm.

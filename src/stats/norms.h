@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The norms of a vector (Norm) and of the difference of two (NormDiff), one
 // set of functions over an element source: Elements for Norm, Differences
 // (formed in the element type) for NormDiff. Src16 is the 16-bit source;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // PatternMatch: a pattern slid along a vector. For every start i from 0 to
 // len - patternLen, pDst[i] is the number of positions j where pSrc[i + j]
 // equals pPattern[j] (qspPatternMatchEqual), or the number of bits in which

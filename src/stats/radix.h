@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Least-significant-digit radix sorting of unsigned keys, shared by the
 // in-place radix sorts and the radix index sorts.
 //

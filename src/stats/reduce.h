@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The accumulation schemes of the reductions (Sum, Mean, StdDev,
 // MeanStdDev, Norm, NormDiff, DotProd) and their integer scaling. The
 // order of every floating addition below is part of the result, so each

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // ReplaceNAN: every NaN element (complex: every NaN part) of a vector is
 // replaced by a value, in place; every other element, infinities included,
 // stays as it is.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortAscend, SortDescend: in-place comparison sorts that need no buffer.
 // Elements are ordered through the same unsigned keys as the radix sorts
 // (floating values by the total order of their bit patterns: -NaN < -Inf <

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortIndexAscend, SortIndexDescend: sorts a vector in place and writes
 // beside it the permutation, pDstIndx[j] = the original index of the value
 // now at j; equal values keep their original order. No buffer: the index

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortRadixAscend, SortRadixDescend and their buffer-size query: in-place
 // least-significant-digit radix sorts with a caller-supplied work buffer.
 #include "checks.h"

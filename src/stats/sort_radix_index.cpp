@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortRadixIndexAscend, SortRadixIndexDescend and their buffer-size query:
 // the sorting permutation of a vector by stable radix passes over (key,
 // index) pairs; the vector itself is not moved, and equal values keep their

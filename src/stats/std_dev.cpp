@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // StdDev: the sample standard deviation of a vector (divisor len - 1).
 #include "qsp_validators.h"
 #include "reduce.h"

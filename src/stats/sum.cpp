@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sum: the sum of the elements of a vector.
 #include "qsp_validators.h"
 #include "reduce.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SumLn: the sum of the natural logarithms of the elements of a vector,
 // block by block from binary exponents and mantissa products.
 #include "mathfn/ln.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // TopK and its buffer query: the k largest elements of a vector in
 // descending order with their indices; among equal values the lower index
 // comes first. Values are compared through the radix sorts' keys, so

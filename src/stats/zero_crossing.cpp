@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // ZeroCrossing: a zero-crossing measure of a signal in [0, 1], from the
 // len - 1 pairs of neighbours:
 //   qspZCR    pairs whose signs differ, a zero counting as positive;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // ConjPerm: expansion of a Perm half spectrum into the complete spectrum.
 #include "checks.h"
 #include "packed_spectrum.h"

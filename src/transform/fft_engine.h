@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The complex power-of-two transform engine behind every FFT of the library.
 //
 // Three tiers, chosen by order:

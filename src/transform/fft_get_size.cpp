@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // FFTGetSize: the byte sizes of the record block, the Init buffer and the
 // work buffer of every power-of-two FFT kind.
 #include "fft_record.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // FFTInit: builds an FFT record in the caller's block.
 #include "fft_transform.h"
 #include "qspcore.h"

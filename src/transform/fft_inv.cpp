@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // FFTInv: the inverse power-of-two FFT of every kind, and the real transforms from the packed spectra.
 #include "fft_transform.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The FFT record: its header, its identifiers, the sizes that GetSize
 // reports and the tiers by order.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The straight-line kernels of the small tier (N <= 32): one function per
 // order, with their twiddles as compile-time constants.
 #pragma once

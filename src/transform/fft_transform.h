@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The transform drivers shared by the forward and inverse families: entry
 // checks against the record, the choice of tier, normalisation, and the real
 // transforms' recombination and packed layouts.

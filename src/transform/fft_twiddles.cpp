@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Init-time construction of the octant table for lengths above 1024.
 #include "fft_twiddles.h"
 #include "simd.h"

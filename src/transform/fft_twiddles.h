@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Twiddle factors of the power-of-two transforms.
 //
 // Every twiddle W_N^k = exp(-2*pi*i*k/N) is taken from one table of the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MulPack: product of two half spectra in Pack layout.
 #include "checks.h"
 #include "packed_spectrum.h"

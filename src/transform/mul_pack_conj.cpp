@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MulPackConj: product of a half spectrum and the conjugate of another, Pack layout.
 #include "checks.h"
 #include "packed_spectrum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MulPerm: product of two half spectra in Perm layout.
 #include "checks.h"
 #include "packed_spectrum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Kernels of the packed-spectrum families: products of half spectra in the
 // Pack and Perm layouts and their expansion into complete spectra.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Generic argument-check tests of the element-wise functions, driven by the
 // function's own signature: every pointer parameter gets a canary-filled
 // buffer, the length is the first integer parameter after the last

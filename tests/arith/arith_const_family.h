@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The shared tests of the three constant families with identical rows
 // (AddC, SubC, SubCRev): each test file names its family's rows once and
 // gives the exact operation; the argument checks, the exactness of every

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Shared test bodies of the two-operand families (Add, Sub, Mul and the
 // constant forms): one call checks a function at every scale factor from
 // -40 to 40 against the exact rule, or a floating function against the

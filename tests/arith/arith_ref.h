@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Independent references and sweeps of the arithmetic tests: the
 // scale-factor rule in exact 128-bit integer arithmetic (floor division and
 // an explicit comparison of the remainder with one half), distances to a
@@ -101,6 +102,16 @@ std::vector<F> floats(size_t n, int maxExp = 40)
         if (qsptest::rng()() % 29 == 0) x = F(0);
     }
     return v;
+}
+
+// The value of a half-precision number given as its 16 bits.
+inline long double halfValue(Qsp16f h)
+{
+    const int e = (h >> 10) & 0x1F, m = h & 0x3FF;
+    const long double s = (h & 0x8000) ? -1 : 1;
+    if (e == 0x1F) return m ? NAN : s * INFINITY;
+    if (e == 0) return s * std::ldexp((long double)m, -24);
+    return s * std::ldexp((long double)(1024 + m), e - 25);
 }
 
 // Spacing of F at the magnitude of x (the smallest denormal spacing below

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sweeps of the element-wise functions over every length from 1 to 70
 // plus a few large ones, at every alignment the element type can have
 // (sources and destination at different offsets), with each element

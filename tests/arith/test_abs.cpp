@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Abs and Conj: magnitudes of real elements and complex conjugates.
 #include "arith_families.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Add: sums of two vectors, floating (IEEE, correctly rounded), saturating
 // integer, scaled integer (exact rule at every scale factor from -40 to
 // 40), complex, widening, and the 64-bit length forms.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // AddProduct: pSrcDst += pSrc1 * pSrc2 in every form.
 #include "arith_families.h"
 

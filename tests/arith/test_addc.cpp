@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // AddC: a constant added to every element, in every form: floating (correctly
 // rounded), scaled integer (the exact rule at every scale factor from -40 to
 // 40), complex part-wise, and the 64-bit length forms.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Convert: every conversion, its rounding modes and their error.
 #include "arith_families.h"
 
@@ -30,15 +31,7 @@ std::vector<F> withTies(size_t n)
     return v;
 }
 
-// Half precision reference: the value of the 16 bits.
-LD halfValue(Qsp16f h)
-{
-    const int e = (h >> 10) & 0x1F, m = h & 0x3FF;
-    const LD s = (h & 0x8000) ? -1 : 1;
-    if (e == 0x1F) return m ? NAN : s * INFINITY;
-    if (e == 0) return s * std::ldexp(LD(m), -24);
-    return s * std::ldexp(LD(1024 + m), e - 25);
-}
+using arithref::halfValue;
 // The half (as bits) of a long double value in a mode, by search over all
 // finite halves of the sign (the two neighbours of x, then the mode).
 Qsp16f toHalf(LD x, int mode)

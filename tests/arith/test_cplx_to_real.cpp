@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // CplxToReal and RealToCplx: splitting complex vectors into parts and
 // joining parts (either part may be absent) into complex vectors.
 #include "arith_families.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Div: the second source divided by the first, in every form; zero
 // divisors give the warning after the whole output is written.
 #include "arith_families.h"

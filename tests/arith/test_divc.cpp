@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // DivC, DivCRev and Div_Round: division by a constant (through MulC with
 // the reciprocal for floating types), of a constant, and with a chosen
 // rounding.

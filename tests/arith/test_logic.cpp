@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // And, Or, Xor, Not and their constant forms: bitwise operations.
 #include "arith_families.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Mul: products of two vectors in every form.
 #include "arith_families.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Normalize: (x - vSub) / vDiv in every form; a zero vDiv is an error.
 #include "arith_families.h"
 

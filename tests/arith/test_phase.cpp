@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Phase: atan2(im, re) of complex elements, against the long double
 // arctangent, with the measured error bounds.
 #include "arith_families.h"

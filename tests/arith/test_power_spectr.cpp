@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // PowerSpectr: re^2 + im^2 of complex elements in every form.
 #include "arith_families.h"
 

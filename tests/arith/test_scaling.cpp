@@ -1,6 +1,10 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The scale-factor rule itself: every mode against the exact reference, the
 // kernel selection by scale factor and the thresholds of the listed
 // functions.
+#include <climits>
+
+#include "arith/rounding.h"
 #include "arith/scaling.h"
 
 #include "arith_ref.h"
@@ -149,3 +153,43 @@ TEST(Scaling, EveryModeMatchesTheExactRule32sProducts)
 TEST(Scaling, FullRangeLanes16s) { checkRange<Qsp16s, Qsp64s>(-2147483647 - 1, 2147483647, false, true); }
 TEST(Scaling, FullRangeLanes8u) { checkRange<Qsp8u, Qsp64s>(-2147483647 - 1, 2147483647, false, true); }
 TEST(Scaling, FullRangeLanes16u) { checkRange<Qsp16u, Qsp64s>(-2147483647 - 1, 2147483647, false, true); }
+
+// The power-of-two scaling of the floating conversions, for every scale
+// factor: integer sources scale exactly and round once, as ldexp in long
+// double followed by one rounding says; double sources give the same
+// integer (rounded to nearest even, saturated to 64 bits) as the exact
+// product, across the clamp at -2044 .. 2046 and out to INT_MIN and INT_MAX.
+TEST(Scaling, PowerOfTwoOfAnyScaleFactor)
+{
+    using LD = long double;
+    const int factors[] = {INT_MIN, INT_MIN + 1, -100000, -2200, -2099, -2046, -2045, -2044, -1200, -1100, -1075,
+                           -1074, -1024, -1023, -1000, -64, -1, 0, 1, 2, 63, 1000, 1022, 1023, 1100, 1200, 2043,
+                           2044, 2045, 2046, 2200, 100000, INT_MAX - 1, INT_MAX};
+    auto exactly = [](LD x, int sf) {
+        const long long e = -static_cast<long long>(sf);
+        return std::ldexp(x, int(e > 20000 ? 20000 : e < -20000 ? -20000 : e));
+    };
+    auto toInt64 = [](LD r) -> Qsp64s {
+        if (r != r) return 0;
+        r = std::nearbyint(r);
+        if (r >= 0x1p63L) return INT64_MAX;
+        if (r < -0x1p63L) return INT64_MIN;
+        return Qsp64s(r);
+    };
+    std::vector<Qsp64s> integers = {1, -1, 3, -7, 255, 32767, -32768, 2147483647, -2147483647 - 1, INT64_MAX,
+                                    INT64_MIN, (Qsp64s(1) << 53) + 1};
+    std::vector<double> doubles = arithref::floats<double>(4000, 1022);
+    for (double x : {5e-324, -5e-324, 2.2250738585072014e-308, 1.7976931348623157e308, -1.7976931348623157e308,
+                     0.5, 1.5, 2.5, -2.5, 0.0, -0.0})
+        doubles.push_back(x);
+    for (int sf : factors) {
+        const auto k = rounding::PowerOfTwo::scaleFactor(sf);
+        for (Qsp64s v : integers) {
+            ASSERT_TRUE(qsptest::sameBits(k(double(v)), double(exactly(LD(double(v)), sf)))) << v << " sf " << sf;
+            ASSERT_TRUE(qsptest::sameBits(float(k(double(Qsp32s(v)))), float(exactly(LD(Qsp32s(v)), sf))))
+                << Qsp32s(v) << " sf " << sf;
+        }
+        for (double x : doubles)
+            ASSERT_EQ(toInt64(k(x)), toInt64(exactly(x, sf))) << x << " sf " << sf;
+    }
+}

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // LShiftC and RShiftC: shifts by a constant count, with the count examined
 // before the pointers (copy for 0, zeros or the sign from the width on)
 // and a negative count reported after them.

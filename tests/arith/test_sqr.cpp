@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sqr: squares, floating (correctly rounded), complex, scaled integer.
 #include "arith_families.h"
 

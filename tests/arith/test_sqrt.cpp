@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sqrt: square roots; correctly rounded floating roots, exact scaled
 // integer roots, complex principal roots, and the out-of-domain warning.
 #include <complex>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sub: the second source minus the first, in every form; the in-place
 // forms subtract the source from the source-and-destination.
 #include "arith_families.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Threshold in every mode, type and form.
 #include <complex>
 

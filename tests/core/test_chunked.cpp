@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The chunking helper of the _L functions, with small chunks injected, and
 // once for real with a length just above the true chunk size.
 #include <sys/mman.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // CopyLE_1u / CopyBE_1u against a bit-by-bit reference for every offset
 // 0..15 and every length 1..200, with the bits around the run kept.
 #include "qsp_test.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Copy and Move of every type: statuses, canaries, every length and
 // alignment, and Move with every overlap direction.
 #include "qsp_test.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Zero and Set of every type: statuses, canaries on error, exact bit
 // patterns for every length and alignment.
 #include "qsp_test.h"

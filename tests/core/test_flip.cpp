@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Flip of every type: out of place, in place (odd and even lengths) and the
 // 64-bit forms with their check order.
 #include "qsp_test.h"

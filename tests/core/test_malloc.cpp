@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // qspsMalloc_*: the byte count each asks of the support library, the
 // limits of every element size, and release through qspsFree.
 //

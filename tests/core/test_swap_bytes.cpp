@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SwapBytes: byte order reversed inside each element, out of place and in
 // place, for 16-, 24-, 32- and 64-bit elements.
 #include "qsp_test.h"

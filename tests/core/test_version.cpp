@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <cstring>
 #include <string>
 
@@ -40,4 +41,19 @@ TEST(GetLibVersion, FieldOrderAndLayout)
     EXPECT_EQ(offsetof(QspVersionRecord, versionText), 32u);
     EXPECT_EQ(offsetof(QspVersionRecord, buildDateText), 40u);
     EXPECT_EQ(offsetof(QspVersionRecord, recordLevel), 48u);
+}
+
+// The header's version macros name the library that is loaded.
+TEST(GetLibVersion, HeaderMacrosMatchTheLoadedLibrary)
+{
+    const QspVersionRecord* v = qspsGetLibVersion();
+    EXPECT_EQ(QSP_VERSION_MAJOR, v->majorVersion);
+    EXPECT_EQ(QSP_VERSION_MINOR, v->minorVersion);
+    EXPECT_EQ(QSP_VERSION_UPDATE, v->updateNumber);
+    EXPECT_EQ(QSP_VERSION, v->majorVersion * 10000 + v->minorVersion * 100 + v->updateNumber);
+    char numbers[32];
+    std::snprintf(numbers, sizeof numbers, "%d.%d.%d", v->majorVersion, v->minorVersion, v->updateNumber);
+    EXPECT_STREQ(QSP_VERSION_STRING, numbers);
+    EXPECT_EQ(std::string(v->versionText).rfind(std::string(QSP_VERSION_STRING) + " (r0x", 0), 0u);
+    static_assert(QSP_VERSION == 20260000, "2026.0.0");
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The natural logarithm of positive doubles.
 #include <cmath>
 #include <random>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Reference searches and data makers shared by the extremum tests. The
 // references are the plain sequential definitions, written without the
 // library's lanes or blocks.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The checks of Norm and NormDiff: one set, run on a vector (Norm) or on
 // two vectors whose element-wise difference, formed in the element type,
 // is the vector whose norms are expected (NormDiff).

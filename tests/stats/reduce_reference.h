@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Scalar models of the reductions' accumulation orders, written from their
 // documented descriptions, so that results can be compared bit for bit,
 // and exact references for the integer forms.

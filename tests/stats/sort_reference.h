@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The order every sort of the library promises, written independently of
 // the library's key formulas, and the inputs the sort tests share.
 #pragma once

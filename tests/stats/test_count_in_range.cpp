@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // CountInRange: elements within closed bounds.
 #include "qsp_test.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // DotProd: sums of products by their accumulation schemes.
 #include "reduce_reference.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // FindNearest, FindNearestOne: the nearest table entry, ties to the lower
 // index.
 #include <algorithm>

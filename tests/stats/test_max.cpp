@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Max: the largest element.
 #include "extremum_reference.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MaxAbs: the largest magnitude.
 #include "extremum_reference.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MaxAbsIndx: the largest magnitude and the lowest index holding it.
 #include "extremum_reference.h"
 

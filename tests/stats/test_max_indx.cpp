@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MaxIndx: the largest element and the lowest index holding it.
 #include "extremum_reference.h"
 #include "stats/extremum.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Mean: the sum of the hint's scheme divided by the length in double.
 #include "reduce_reference.h"
 

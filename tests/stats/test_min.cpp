@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Min: the smallest element.
 #include "extremum_reference.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MinAbs: the smallest magnitude.
 #include "extremum_reference.h"
 

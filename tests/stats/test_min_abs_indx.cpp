@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MinAbsIndx: the smallest magnitude and the lowest index holding it.
 #include "extremum_reference.h"
 

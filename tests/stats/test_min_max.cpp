@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MinMax: both extremes in one pass.
 #include "extremum_reference.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // MinMaxIndx: both extremes with the lowest index of each.
 #include "extremum_reference.h"
 

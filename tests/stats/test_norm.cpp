@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Norm: infinity, L1 and L2 norms of a vector.
 #include "norm_check.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // NormDiff: the norms of the difference of two vectors.
 #include "norm_check.h"
 

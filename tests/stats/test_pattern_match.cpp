@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // PatternMatch: matching counts and Hamming distances along a vector.
 #include "qsp_test.h"
 

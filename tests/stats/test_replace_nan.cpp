@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // ReplaceNAN: NaN elements and parts replaced in place.
 #include "qsp_test.h"
 

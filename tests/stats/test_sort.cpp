@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortAscend, SortDescend: in-place comparison sorts.
 #include "sort_reference.h"
 

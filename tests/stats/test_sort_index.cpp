@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortIndexAscend, SortIndexDescend: sorted values and the stable
 // permutation beside them.
 #include "sort_reference.h"

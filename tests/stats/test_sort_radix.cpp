@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortRadixAscend, SortRadixDescend and SortRadixGetBufferSize.
 #include <algorithm>
 #include <cstring>

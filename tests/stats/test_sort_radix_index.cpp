@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SortRadixIndexAscend, SortRadixIndexDescend and their buffer query: the
 // stable sorting permutation, the source left as it was.
 #include "sort_reference.h"

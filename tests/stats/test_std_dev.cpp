@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // StdDev and MeanStdDev: the sample standard deviation from a sum and a sum
 // of squares in double, and the mean from the same sum.
 #include "reduce_reference.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Sum: the sums of every type, by their accumulation schemes.
 #include "reduce_reference.h"
 

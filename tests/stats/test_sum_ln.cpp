@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // SumLn: sums of natural logarithms, their warnings and special results.
 #include "reduce_reference.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // TopK: the k largest with their indices, ties to the lower index.
 #include "sort_reference.h"
 

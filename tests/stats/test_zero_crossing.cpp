@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // ZeroCrossing: the three measures of sign changes.
 #include "qsp_test.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Test program entry: GoogleTest with a listener that fails any test that
 // leaves the floating-point control modes (rounding, flush-to-zero,
 // denormals-are-zero, exception masks) different from how it found them.

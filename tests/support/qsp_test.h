@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Shared helpers of the test programs: canary-filled buffers that prove
 // nothing was written, deterministic random data, and distances in units
 // in the last place.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Shared check of the three expansion families (ConjPerm, ConjPack,
 // ConjCcs): the complete conjugate-symmetric spectrum from a half spectrum.
 #pragma once

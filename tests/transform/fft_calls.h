@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Every transform call of the FFT families behind one signature, for the
 // tests of the entry checks: call(record, src, dst, work) with src and dst
 // raw buffers large enough for any kind at the order used (a split kind

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Uniform access to the seven FFT kinds for the tests: size query, Init and
 // the transforms, with data exchanged as long double complex vectors.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Access to the real FFT kinds for the tests.
 #pragma once
 #include "fft_reference.h"

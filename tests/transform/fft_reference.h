@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Reference transforms for the FFT tests, in long double: a direct
 // evaluation of the definition for short lengths and a recursive radix-2
 // transform (its twiddles from the C library's long double sine and cosine)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Reference unpacking of half spectra for the packed-arithmetic tests.
 #pragma once
 #include <complex>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "conj_expand.h"
 
 using namespace conjexpand;

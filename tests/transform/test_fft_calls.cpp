@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Entry checks shared by every forward and inverse transform call: the
 // record, its identifier, the data pointers, the work buffer; nothing is
 // written on any error.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Properties of the transforms beyond the reference comparison: round
 // trips by flag, tier boundaries, misaligned blocks, special signals.
 #include "fft_kinds.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "fft_real_kinds.h"
 
 using namespace fftreal;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "packed_reference.h"
 
 using namespace packedref;
