@@ -1945,7 +1945,7 @@ QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
  * Checks: null pSpec, then null pSrc, pDst or pBuf qspStsNullPtr; numIters < 1
  * qspStsBadSize. Nothing is written on error.
  *
- * Example, a 64-tap filter over a stream of blocks:
+ * Example, a 64-tap filter over a stream of blocks, dly carrying the history:
  *   int specSize, bufSize;
  *   qspsFIRSRGetSize(64, qsp32f, &specSize, &bufSize);
  *   QspsFIRSpec_32f* spec = (QspsFIRSpec_32f*)qspsMalloc_8u(specSize);
@@ -1953,7 +1953,7 @@ QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
  *   Qsp32f dly[63] = {0};
  *   qspsFIRSRInit_32f(taps, 64, qspAlgAuto, spec);
  *   while (readBlock(in, 1024))
- *       qspsFIRSR_32f(in, out, 1024, spec, dly, dly, buf);  /* dly carries on */
+ *       qspsFIRSR_32f(in, out, 1024, spec, dly, dly, buf);
  *   qspsFree(buf);
  *   qspsFree(spec);
  */
