@@ -29,8 +29,9 @@
 //         every tap already repeated across a register, register after
 //         register, in natural tap order: real taps one register per tap,
 //         complex taps two (real part in every lane, then imaginary part).
-//         fir::splatTaps() fills such an area; it spares the kernel one
-//         shuffle per tap, which short filters notice.
+//         fir::splatTaps() fills such an area from taps in natural order,
+//         fir::splatFrom() from any tap source (conjugation applied); it
+//         spares the kernel one shuffle per tap.
 //
 // Summation order (part of the interface). Every output is the running sum
 //     t[0] x[n] + t[1] x[n-1] + ... + t[N-1] x[n-N+1]
@@ -137,6 +138,22 @@ void splatTaps(const typename K::Part* taps, Qsp64s n, typename K::Part* dst)
         }
     } else {
         for (Qsp64s i = 0; i < n; ++i) V::store(dst + i * V::lanes, V::splat(taps[i]));
+    }
+}
+
+// Fills dst (16-byte aligned, splatParts<K>(n) parts) from any tap source,
+// conjugation applied, so that later calls read SplatTaps.
+template <class K, class Taps>
+void splatFrom(const Taps& t, Qsp64s n, typename K::Part* dst)
+{
+    using V = simd::Vec<typename K::Part>;
+    if constexpr (K::complexTaps) {
+        for (Qsp64s i = 0; i < n; ++i) {
+            V::store(dst + 2 * i * V::lanes, V::splat(t.re(i)));
+            V::store(dst + (2 * i + 1) * V::lanes, V::splat(Taps::conj ? -t.im(i) : t.im(i)));
+        }
+    } else {
+        for (Qsp64s i = 0; i < n; ++i) V::store(dst + i * V::lanes, V::splat(t.scalar(i)));
     }
 }
 

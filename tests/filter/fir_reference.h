@@ -6,7 +6,9 @@
 #pragma once
 #include <cmath>
 #include <complex>
+#include <algorithm>
 #include <limits>
+#include <utility>
 #include <random>
 #include <type_traits>
 #include <vector>
@@ -146,6 +148,83 @@ inline int log2Ceil(long long n)
     int k = 0;
     while ((1LL << k) < n) ++k;
     return k;
+}
+
+
+// v / (d 2^s) rounded to nearest, ties to even, saturated to 16 bits, in
+// exact 128-bit arithmetic (d >= 1).
+inline Qsp16s ratioRule16(long long v, long long d, int s)
+{
+    __int128 num = v, den = d;
+    if (s > 0) {
+        if (s >= 100) return 0;
+        den <<= s;
+    } else if (s < 0) {
+        if (v == 0) return 0;
+        if (-s >= 60) return v > 0 ? 32767 : -32768;
+        num <<= -s;
+    }
+    const bool neg = num < 0;
+    const __int128 a = neg ? -num : num;
+    __int128 q = a / den;
+    const __int128 r = a % den;
+    if (2 * r > den || (2 * r == den && (q & 1))) ++q;
+    const __int128 res = neg ? -q : q;
+    return Qsp16s(res > 32767 ? 32767 : res < -32768 ? -32768 : (long long)res);
+}
+
+// One value of the full linear convolution y[j] = sum a[k] b[j - k] over
+// the indices inside both operands (zero outside [0, n1 + n2 - 1)), with
+// its magnitude sum.
+template <class T>
+std::pair<LC, long double> convAt(const T* a, long long n1, const T* b, long long n2, long long j)
+{
+    LC acc = 0;
+    long double m = 0;
+    const long long lo = std::max(0LL, j - n2 + 1), hi = std::min(n1 - 1, j);
+    for (long long k = lo; k <= hi; ++k) {
+        const LC x = Elem<T>::get(a[k]), y = Elem<T>::get(b[j - k]);
+        acc += LC(x.real() * y.real() - x.imag() * y.imag(), x.real() * y.imag() + x.imag() * y.real());
+        m += mag(x) * mag(y);
+    }
+    return {acc, m};
+}
+
+// One value of the correlation r[lag] = sum over n of b[n + lag] conj(a[n]).
+template <class T>
+std::pair<LC, long double> corrAt(const T* a, long long n1, const T* b, long long n2, long long lag)
+{
+    LC acc = 0;
+    long double m = 0;
+    for (long long n = std::max(0LL, -lag); n < n1 && n + lag < n2; ++n) {
+        const LC x = std::conj(Elem<T>::get(a[n])), y = Elem<T>::get(b[n + lag]);
+        acc += LC(x.real() * y.real() - x.imag() * y.imag(), x.real() * y.imag() + x.imag() * y.real());
+        m += mag(x) * mag(y);
+    }
+    return {acc, m};
+}
+
+// The exact sums of 16-bit operands.
+inline long long convAt16(const Qsp16s* a, long long n1, const Qsp16s* b, long long n2, long long j)
+{
+    long long acc = 0;
+    const long long lo = std::max(0LL, j - n2 + 1), hi = std::min(n1 - 1, j);
+    for (long long k = lo; k <= hi; ++k) acc += (long long)a[k] * b[j - k];
+    return acc;
+}
+
+inline long long corrAt16(const Qsp16s* a, long long n1, const Qsp16s* b, long long n2, long long lag)
+{
+    long long acc = 0;
+    for (long long n = std::max(0LL, -lag); n < n1 && n + lag < n2; ++n) acc += (long long)a[n] * b[n + lag];
+    return acc;
+}
+
+// The scale-factor rule on an exact value: v 2^-s rounded to nearest, ties
+// to even, saturated to 16 bits; exact in 128-bit arithmetic.
+inline Qsp16s scaleRule16(long long v, int s)
+{
+    return ratioRule16(v, 1, s);
 }
 
 }  // namespace firref
