@@ -28,6 +28,7 @@
 #include <vector>
 
 #include "fftw_sse2.h"
+#include "plain_fir.h"
 #include "qsps.h"
 #include "ratio_reporter.h"
 
@@ -138,43 +139,13 @@ void ours(benchmark::State& state, QspAlgType alg, int samples)
 
 // ------------------------------------------------------------ plain loop
 
-// The reference loop: eight registers of four outputs each, every tap
-// broadcast once per row of 32 outputs, the input read unaligned.
-void loopFir(const float* h, int n, const float* x, float* y, int count)
-{
-    int i = 0;
-    for (; i + 32 <= count; i += 32) {
-        __m128 a0 = _mm_setzero_ps(), a1 = a0, a2 = a0, a3 = a0, a4 = a0, a5 = a0, a6 = a0, a7 = a0;
-        const float* p = x + i;
-        for (int k = 0; k < n; ++k, --p) {
-            const __m128 t = _mm_set1_ps(h[k]);
-            a0 = _mm_add_ps(a0, _mm_mul_ps(t, _mm_loadu_ps(p)));
-            a1 = _mm_add_ps(a1, _mm_mul_ps(t, _mm_loadu_ps(p + 4)));
-            a2 = _mm_add_ps(a2, _mm_mul_ps(t, _mm_loadu_ps(p + 8)));
-            a3 = _mm_add_ps(a3, _mm_mul_ps(t, _mm_loadu_ps(p + 12)));
-            a4 = _mm_add_ps(a4, _mm_mul_ps(t, _mm_loadu_ps(p + 16)));
-            a5 = _mm_add_ps(a5, _mm_mul_ps(t, _mm_loadu_ps(p + 20)));
-            a6 = _mm_add_ps(a6, _mm_mul_ps(t, _mm_loadu_ps(p + 24)));
-            a7 = _mm_add_ps(a7, _mm_mul_ps(t, _mm_loadu_ps(p + 28)));
-        }
-        _mm_storeu_ps(y + i, a0), _mm_storeu_ps(y + i + 4, a1), _mm_storeu_ps(y + i + 8, a2);
-        _mm_storeu_ps(y + i + 12, a3), _mm_storeu_ps(y + i + 16, a4), _mm_storeu_ps(y + i + 20, a5);
-        _mm_storeu_ps(y + i + 24, a6), _mm_storeu_ps(y + i + 28, a7);
-    }
-    for (; i < count; ++i) {
-        float a = 0;
-        for (int k = 0; k < n; ++k) a += h[k] * x[i - k];
-        y[i] = a;
-    }
-}
-
 void loop(benchmark::State& state)
 {
     const int n = int(state.range(0));
     const auto h = testTaps(n);
     Signal in(n, kSamples), out(1, kSamples);
     for (auto _ : state) {
-        loopFir(h.data(), n, in.x(), out.x(), kSamples);
+        qspbench::loopFir(h.data(), n, in.x(), out.x(), kSamples);
         benchmark::ClobberMemory();
     }
     setRate(state, kSamples, n);
@@ -274,28 +245,12 @@ qspbench::FftwSse2f systemFftw()
 
 }  // namespace
 
-// Every case is registered `rounds` times, the rounds one after the other,
-// so that ours and the peers alternate through the run; the ratio table
-// keeps the fastest run of each (--rounds=K, default 3).
-int takeRounds(int& argc, char** argv)
-{
-    int rounds = 3;
-    for (int i = 1; i < argc; ++i)
-        if (std::strncmp(argv[i], "--rounds=", 9) == 0) {
-            rounds = std::max(1, std::atoi(argv[i] + 9));
-            for (int j = i; j + 1 < argc; ++j) argv[j] = argv[j + 1];
-            --argc;
-            break;
-        }
-    return rounds;
-}
-
 int main(int argc, char** argv)
 {
     std::printf("peers: %s, liquid-dsp %s, SSE2 FFTW %s\n", fftwf_version, LIQUID_VERSION,
                 qspbench::fftwSse2f().available() ? qspbench::fftwSse2f().version : "not found");
     static const qspbench::FftwSse2f sys = systemFftw();
-    const int rounds = takeRounds(argc, argv);
+    const int rounds = qspbench::takeRounds(argc, argv);
     const int peerTaps[] = {16, 64, 256, 1024, 4096};
     // The crossover: 2^18 samples per call, so that even 4096 taps run many
     // transform blocks.

@@ -118,6 +118,7 @@ enum class Method { Direct, Fft };
 
 struct Plan {
     Method method;
+    bool whole;               // one transform of the whole zero-padded signal
     int order;                // the transform's, for Fft
     Qsp64s fftLen;
     overlap::FftSizes fft;
@@ -143,52 +144,58 @@ Qsp64s fftBytes(const overlap::FftSizes& f, Qsp64s len)
     return f.spec + f.init + f.work + 2 * roundUp64(len * Qsp64s(sizeof(D))) + 64;
 }
 
-// The plan for M taps and `count` outputs that each reach into the signal:
-// the method the algorithm type asks for, or for qspAlgAuto the cheaper by
-// the costs above; for the transform, the block length with the least
-// cost. bytes < 0 when nothing fits in an int.
+inline int ceilLog2(Qsp64s n)
+{
+    int k = 0;
+    while ((Qsp64s(1) << k) < n) ++k;
+    return k;
+}
+
+// The plan for m taps over xLen samples, `count` outputs that reach into
+// the signal: the method the algorithm type asks for, or for qspAlgAuto the
+// cheaper by the costs above. The transform's candidates are overlap-save
+// with blocks of 2 to 64 times the taps, and one block of the whole
+// zero-padded signal (length at least xLen + m - 1, no values discarded:
+// what wraps around is the padding). bytes < 0 when nothing fits in an int.
 template <class D>
-Plan plan(Qsp64s m, Qsp64s count, QspAlgType alg)
+Plan plan(Qsp64s m, Qsp64s xLen, Qsp64s count, QspAlgType alg)
 {
     using C = Costs<D>;
-    Plan best{Method::Direct, 0, 0, {0, 0, 0}, directBytes<D>(m)};
-    const double direct = C::direct * double(m) * double(count);
-    double fftCost = 0;
-    if (alg != qspAlgDirect) {
-        bool found = false;
-        int lo = 1;
-        while ((Qsp64s(1) << lo) < 2 * m) ++lo;
-        int hi = lo;
-        while (hi < kMaxOrder<D> && (Qsp64s(1) << hi) < count + m - 1) ++hi;
-        for (int order = lo; order <= hi; ++order) {
-            overlap::FftSizes f;
-            if (!overlap::fftSizes<D>(order, f)) break;
-            const Qsp64s len = Qsp64s(1) << order, step = len - (m - 1);
-            const double blocks = double((count + step - 1) / step);
-            const double perTransform = C::transform * double(len) * order * lengthPenalty(order);
-            const double cost = perTransform * (2 * blocks + 1 + C::record) + C::block * double(len) * blocks;
-            const Qsp64s bytes = fftBytes<D>(f, len);
-            if (bytes > 0x7FFFFFFF) break;
-            if (!found || cost < fftCost) {
-                fftCost = cost;
-                best.order = order;
-                best.fftLen = len;
-                best.fft = f;
-                best.bytes = bytes;
-                found = true;
-            }
-        }
-        if (alg == qspAlgFFT || (found && fftCost < direct)) {
-            if (!found) return {Method::Fft, 0, 0, {0, 0, 0}, -1};
-            best.method = Method::Fft;
-            return best;
-        }
+    const Plan direct{Method::Direct, false, 0, 0, {0, 0, 0}, directBytes<D>(m) > 0x7FFFFFFF ? -1 : directBytes<D>(m)};
+    if (alg == qspAlgDirect) return direct;
+    struct Candidate {
+        int order;
+        bool whole;
+        double cost;
+    } cands[8];
+    int n = 0;
+    auto transform = [](int order) { return C::transform * double(Qsp64s(1) << order) * order * lengthPenalty(order); };
+    const int lo = ceilLog2(2 * m);
+    for (int order = lo; order <= lo + 5 && order <= kMaxOrder<D>; ++order) {
+        const Qsp64s len = Qsp64s(1) << order, step = len - (m - 1);
+        const double blocks = double((count + step - 1) / step);
+        cands[n++] = {order, false, transform(order) * (2 * blocks + 1 + C::record) + C::block * double(len) * blocks};
+        if (blocks <= 1) break;
     }
-    best.order = 0;
-    best.fftLen = 0;
-    best.bytes = directBytes<D>(m);
-    if (best.bytes > 0x7FFFFFFF) best.bytes = -1;
-    return best;
+    const int whole = ceilLog2(xLen + m - 1);
+    if (whole <= kMaxOrder<D>) {
+        const Qsp64s len = Qsp64s(1) << whole;
+        cands[n++] = {whole, true, transform(whole) * (3 + C::record) + C::block * double(len)};
+    }
+    // The cheapest candidate whose buffer fits.
+    Plan best{Method::Fft, false, 0, 0, {0, 0, 0}, -1};
+    double bestCost = 0;
+    for (int i = 0; i < n; ++i) {
+        if (best.bytes >= 0 && cands[i].cost >= bestCost) continue;
+        overlap::FftSizes f;
+        if (!overlap::fftSizes<D>(cands[i].order, f)) continue;
+        const Qsp64s len = Qsp64s(1) << cands[i].order, bytes = fftBytes<D>(f, len);
+        if (bytes > 0x7FFFFFFF) continue;
+        best = {Method::Fft, cands[i].whole, cands[i].order, len, f, bytes};
+        bestCost = cands[i].cost;
+    }
+    if (alg == qspAlgFFT || best.bytes < 0) return alg == qspAlgFFT ? best : direct;
+    return bestCost < C::direct * double(m) * double(count) ? best : direct;
 }
 
 // ---------------------------------------------------------------- floating engine
@@ -225,6 +232,17 @@ QspStatus ownsConvolve(Taps<D, Step, Conj> taps, Qsp64s m, const D* x, Qsp64s xL
         if (QspStatus s = Fft::init(&spec, pl.order, mem, init)) return s;
         for (Qsp64s i = 0; i < m; ++i) spectrum[i] = taps.at(i);
         if (QspStatus s = overlap::ownsSpectrum<D>(spec, m, spectrum, pl.fftLen, fftWork)) return s;
+        if (pl.whole) {
+            // The whole signal in one block: the circular convolution is the
+            // linear one, since what wraps around is the zero padding.
+            samples::copy(x, block, xLen);
+            samples::zero(block + xLen, pl.fftLen - xLen);
+            QspStatus s = Fft::forward(block, block, spec, fftWork);
+            if (s >= 0) s = Fft::multiply(spectrum, block, int(pl.fftLen));
+            if (s >= 0) s = Fft::inverse(block, block, spec, fftWork);
+            if (s >= 0) samples::copy(block + first, y, inside);
+            return s < 0 ? s : qspStsOk;
+        }
         const overlap::Filter<D> f{spec, spectrum, pl.fftLen, m, block, fftWork};
         return overlap::ownsOverlapSave(f, samples::Signal<D>{nullptr, 0, x, xLen}, first, y, inside);
     }
@@ -278,7 +296,7 @@ struct Plan16 {
 
 inline Plan16 plan16(Qsp64s m, Qsp64s xLen, Qsp64s count, QspAlgType alg)
 {
-    Plan inner = plan<Qsp64f>(m, count, alg);
+    Plan inner = plan<Qsp64f>(m, xLen, count, alg);
     if (inner.method == Method::Direct) inner.bytes = directBytes<Qsp64f>(m < kExactTaps ? m : kExactTaps);
     if (inner.bytes < 0) return {inner, -1};
     const Qsp64s bytes = roundUp64(8 * m) + roundUp64(8 * xLen) + 2 * roundUp64(8 * count) + inner.bytes + 64;

@@ -25,10 +25,10 @@ Qsp64s bufferBytes(int n1, int n2, QspDataType type, QspAlgType alg)
 {
     const Shape sh(n1, n2);
     switch (type) {
-    case qsp32f: return conv::plan<Qsp32f>(sh.m, sh.count, alg).bytes;
-    case qsp64f: return conv::plan<Qsp64f>(sh.m, sh.count, alg).bytes;
-    case qsp32fc: return conv::plan<Qsp32fc>(sh.m, sh.count, alg).bytes;
-    case qsp64fc: return conv::plan<Qsp64fc>(sh.m, sh.count, alg).bytes;
+    case qsp32f: return conv::plan<Qsp32f>(sh.m, sh.len, sh.count, alg).bytes;
+    case qsp64f: return conv::plan<Qsp64f>(sh.m, sh.len, sh.count, alg).bytes;
+    case qsp32fc: return conv::plan<Qsp32fc>(sh.m, sh.len, sh.count, alg).bytes;
+    case qsp64fc: return conv::plan<Qsp64fc>(sh.m, sh.len, sh.count, alg).bytes;
     default: {
         const conv::Plan16 p = conv::plan16(sh.m, sh.len, sh.count, alg);
         return p.bytes < 0 ? -1 : p.bytes + conv::roundUp64(8 * sh.count);
@@ -43,7 +43,7 @@ QspStatus convolve(const D* pSrc1, const D* pSrc2, D* pDst, int n1, int n2, QspA
     if (n1 < 1 || n2 < 1) return qspStsBadSize;
     if (!validAlg(alg)) return qspStsBadAlgType;
     const Shape sh(n1, n2);
-    const conv::Plan pl = conv::plan<D>(sh.m, sh.count, alg);
+    const conv::Plan pl = conv::plan<D>(sh.m, sh.len, sh.count, alg);
     if (pl.bytes < 0) return qspStsOverflow;
     const D* taps = n1 <= n2 ? pSrc1 : pSrc2;
     const D* x = n1 <= n2 ? pSrc2 : pSrc1;

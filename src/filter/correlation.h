@@ -61,7 +61,7 @@ template <class D>
 Qsp64s bufferBytes(Qsp64s n1, Qsp64s n2, Qsp64s dstLen, Qsp64s lowLag, QspAlgType alg)
 {
     const Geometry g = geometry(n1, n2, dstLen, lowLag);
-    return conv::plan<D>(g.m, g.inside, alg).bytes;
+    return conv::plan<D>(g.m, g.xLen, g.inside, alg).bytes;
 }
 
 inline Qsp64s bufferBytes16(Qsp64s n1, Qsp64s n2, Qsp64s dstLen, Qsp64s lowLag, QspAlgType alg)
@@ -137,7 +137,7 @@ QspStatus ownsCorrelate(const D* src1, Qsp64s n1, const D* src2, Qsp64s n2, D* d
                         QspAlgType alg, int norm, Qsp8u* work)
 {
     const Geometry g = geometry(n1, n2, dstLen, lowLag);
-    const conv::Plan pl = conv::plan<D>(g.m, g.inside, alg);
+    const conv::Plan pl = conv::plan<D>(g.m, g.xLen, g.inside, alg);
     constexpr bool cplx = !std::is_same_v<D, Qsp32f> && !std::is_same_v<D, Qsp64f>;
     const D* taps = g.swapped ? src2 : src1;
     const D* x = g.swapped ? src1 : src2;
