@@ -82,33 +82,38 @@ struct Taps {
 // ---------------------------------------------------------------- plans
 
 // The relative costs the choice between the methods rests on, in units of
-// one multiply-add of the direct kernel in single precision; they come from
-// qsp_bench_conv's direct_<type> and fft_<type> cases on an SSE4.2 core
-// (the constants of a type are the ratio of its measured kernel times):
+// one multiply-add of the direct kernel in single precision (about 0.047 ns
+// on the SSE4.2 core they were measured on):
 //   direct     a multiply-add of the type (complex: one complex product);
 //   transform  per point and level of a transform of the type's kind (real
 //              transforms for real data), with the penalty of lengths
 //              beyond the second-level cache;
-//   block      per point of a block, the product with the spectrum and the
+//   block      per point of a block: the product with the spectrum and the
 //              copies around the transforms;
+//   call       per block, the fixed cost of its calls;
 //   record     building a transform record, in transforms of its length.
+// They were fitted to the thread times of Convolve with qspAlgDirect and
+// qspAlgFFT for taps of 4 .. 1024 against signals of 256, 4096 and 65536
+// samples (qsp_bench_conv, cases conv_<type>/m/n: fastest of 3 to 40 runs
+// each). The crossovers they give for long signals: 32f about 56 taps, 64f
+// about 36, 32fc and 64fc about 18.
 template <class D>
 struct Costs;
 template <>
 struct Costs<Qsp32f> {
-    static constexpr double direct = 1.0, transform = 1.8, block = 1.2, record = 1.5;
+    static constexpr double direct = 1.0, transform = 2.1, block = 1.7, call = 3000, record = 1.5;
 };
 template <>
 struct Costs<Qsp64f> {
-    static constexpr double direct = 2.0, transform = 3.4, block = 2.2, record = 1.5;
+    static constexpr double direct = 2.9, transform = 4.0, block = 3.0, call = 3000, record = 1.5;
 };
 template <>
 struct Costs<Qsp32fc> {
-    static constexpr double direct = 4.0, transform = 3.6, block = 2.4, record = 1.5;
+    static constexpr double direct = 6.2, transform = 4.2, block = 2.7, call = 3000, record = 1.5;
 };
 template <>
 struct Costs<Qsp64fc> {
-    static constexpr double direct = 8.0, transform = 6.8, block = 4.4, record = 1.5;
+    static constexpr double direct = 13.0, transform = 10.0, block = 6.0, call = 3000, record = 1.5;
 };
 
 // Transforms beyond 2^18 points leave the caches.
@@ -171,31 +176,37 @@ Plan plan(Qsp64s m, Qsp64s xLen, Qsp64s count, QspAlgType alg)
     int n = 0;
     auto transform = [](int order) { return C::transform * double(Qsp64s(1) << order) * order * lengthPenalty(order); };
     const int lo = ceilLog2(2 * m);
+    // Any transform plan costs at least three transforms of the shortest
+    // length and a record: short taps stop here.
+    const double directCost = C::direct * double(m) * double(count);
+    if (alg == qspAlgAuto && directCost <= transform(lo) * (3 + C::record)) return direct;
     for (int order = lo; order <= lo + 5 && order <= kMaxOrder<D>; ++order) {
         const Qsp64s len = Qsp64s(1) << order, step = len - (m - 1);
         const double blocks = double((count + step - 1) / step);
-        cands[n++] = {order, false, transform(order) * (2 * blocks + 1 + C::record) + C::block * double(len) * blocks};
+        cands[n++] = {order, false,
+                      transform(order) * (2 * blocks + 1 + C::record) + (C::block * double(len) + C::call) * blocks};
         if (blocks <= 1) break;
     }
     const int whole = ceilLog2(xLen + m - 1);
     if (whole <= kMaxOrder<D>) {
         const Qsp64s len = Qsp64s(1) << whole;
-        cands[n++] = {whole, true, transform(whole) * (3 + C::record) + C::block * double(len)};
+        cands[n++] = {whole, true, transform(whole) * (3 + C::record) + C::block * double(len) + C::call};
     }
-    // The cheapest candidate whose buffer fits.
+    // Direct unless a candidate is cheaper; then the cheapest whose buffer
+    // fits (the size queries only once the transform is chosen).
     Plan best{Method::Fft, false, 0, 0, {0, 0, 0}, -1};
-    double bestCost = 0;
-    for (int i = 0; i < n; ++i) {
-        if (best.bytes >= 0 && cands[i].cost >= bestCost) continue;
+    for (;;) {
+        int pick = -1;
+        for (int i = 0; i < n; ++i)
+            if (cands[i].order >= 0 && (pick < 0 || cands[i].cost < cands[pick].cost)) pick = i;
+        if (pick < 0) return alg == qspAlgFFT ? best : direct;
+        if (alg == qspAlgAuto && cands[pick].cost >= directCost) return direct;
         overlap::FftSizes f;
-        if (!overlap::fftSizes<D>(cands[i].order, f)) continue;
-        const Qsp64s len = Qsp64s(1) << cands[i].order, bytes = fftBytes<D>(f, len);
-        if (bytes > 0x7FFFFFFF) continue;
-        best = {Method::Fft, cands[i].whole, cands[i].order, len, f, bytes};
-        bestCost = cands[i].cost;
+        const Qsp64s len = Qsp64s(1) << cands[pick].order;
+        if (overlap::fftSizes<D>(cands[pick].order, f) && fftBytes<D>(f, len) <= 0x7FFFFFFF)
+            return {Method::Fft, cands[pick].whole, cands[pick].order, len, f, fftBytes<D>(f, len)};
+        cands[pick].order = -1;
     }
-    if (alg == qspAlgFFT || best.bytes < 0) return alg == qspAlgFFT ? best : direct;
-    return bestCost < C::direct * double(m) * double(count) ? best : direct;
 }
 
 // ---------------------------------------------------------------- floating engine
