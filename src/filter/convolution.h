@@ -105,15 +105,15 @@ struct Costs<Qsp32f> {
 };
 template <>
 struct Costs<Qsp64f> {
-    static constexpr double direct = 2.9, transform = 4.0, block = 3.0, call = 3000, record = 1.5;
+    static constexpr double direct = 2.4, transform = 4.0, block = 3.0, call = 3000, record = 1.5;
 };
 template <>
 struct Costs<Qsp32fc> {
-    static constexpr double direct = 6.2, transform = 4.2, block = 2.7, call = 3000, record = 1.5;
+    static constexpr double direct = 3.8, transform = 4.2, block = 2.7, call = 3000, record = 1.5;
 };
 template <>
 struct Costs<Qsp64fc> {
-    static constexpr double direct = 13.0, transform = 10.0, block = 6.0, call = 3000, record = 1.5;
+    static constexpr double direct = 9.5, transform = 10.0, block = 6.0, call = 3000, record = 1.5;
 };
 
 // Transforms beyond 2^18 points leave the caches.

@@ -173,7 +173,7 @@ inline void ownsFirRowReal(const Taps& t, Qsp64s n, const P* x, P* y)
         for (int b = 0; b < B; ++b) acc[b] = V::mul(c, V::loadu(x + b * L));
     }
     for (Qsp64s i = 1; i < n; ++i) {
-        x -= S;
+        x = simd::opaque(x - S);
         const auto c = t.splat(i);
 #pragma GCC unroll 16
         for (int b = 0; b < B; ++b) acc[b] = V::add(acc[b], V::mul(c, V::loadu(x + b * L)));
@@ -211,7 +211,7 @@ inline void ownsFirRowComplex(const Taps& t, Qsp64s n, const P* x, P* y)
         }
     }
     for (Qsp64s i = 1; i < n; ++i) {
-        x -= 2;
+        x = simd::opaque(x - 2);
         const auto cr = t.splatRe(i), ci = t.splatIm(i);
 #pragma GCC unroll 8
         for (int b = 0; b < B; ++b) {
