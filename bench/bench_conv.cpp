@@ -27,7 +27,7 @@
 #include <vector>
 
 #include "fftw_sse2.h"
-#include "plain_fir.h"
+#include "fir_peers.h"
 #include "qsps.h"
 #include "ratio_reporter.h"
 
@@ -88,10 +88,9 @@ void ours(benchmark::State& state, QspAlgType alg)
     int bytes = 0;
     qspsConvolveGetBufferSize(int(n1), int(n2), Ours<T>::type, alg, &bytes);
     Qsp8u* buf = qspsMalloc_8u(bytes);
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         Ours<T>::call(a.data(), b.data(), y.data(), int(n1), int(n2), alg, buf);
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, n1, n2);
     qspsFree(buf);
 }
@@ -106,10 +105,9 @@ void loop(benchmark::State& state)
     // The longer operand with m - 1 zeros on each side.
     std::vector<float> padded(len + 2 * (m - 1), 0.0f), y(count);
     std::copy(x.begin(), x.end(), padded.begin() + (m - 1));
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         qspbench::loopFir(taps.data(), int(m), padded.data() + (m - 1), y.data(), int(count));
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, n1, n2);
 }
 
@@ -129,7 +127,7 @@ void fftwConvolve(benchmark::State& state, const Api& api)
     auto inv = api.plan_dft_c2r_1d(int(len), ca, ra, FFTW_MEASURE);
     std::vector<float> y(n1 + n2 - 1);
     const float scale = 1.0f / float(len);
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         std::memcpy(ra, a.data(), sizeof(float) * n1);
         std::fill(ra + n1, ra + len, 0.0f);
         std::memcpy(rb, b.data(), sizeof(float) * n2);
@@ -143,25 +141,10 @@ void fftwConvolve(benchmark::State& state, const Api& api)
         }
         api.execute_dft_c2r(inv, ca, ra);
         std::memcpy(y.data(), ra, sizeof(float) * (n1 + n2 - 1));
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, n1, n2);
     api.destroy_plan(fa), api.destroy_plan(fb), api.destroy_plan(inv);
     api.free(ra), api.free(rb), api.free(ca), api.free(cb);
-}
-
-qspbench::FftwSse2f systemFftw()
-{
-    qspbench::FftwSse2f a;
-    a.plan_dft_r2c_1d = fftwf_plan_dft_r2c_1d;
-    a.plan_dft_c2r_1d = fftwf_plan_dft_c2r_1d;
-    a.execute_dft_r2c = fftwf_execute_dft_r2c;
-    a.execute_dft_c2r = fftwf_execute_dft_c2r;
-    a.destroy_plan = fftwf_destroy_plan;
-    a.malloc = fftwf_malloc;
-    a.free = fftwf_free;
-    a.execute = fftwf_execute;
-    return a;
 }
 
 }  // namespace
@@ -170,7 +153,7 @@ int main(int argc, char** argv)
 {
     std::printf("peers: %s, SSE2 FFTW %s\n", fftwf_version,
                 qspbench::fftwSse2f().available() ? qspbench::fftwSse2f().version : "not found");
-    static const qspbench::FftwSse2f sys = systemFftw();
+    static const qspbench::FftwSse2f sys = qspbench::systemFftw();
     const int rounds = qspbench::takeRounds(argc, argv);
     const long long lengths[] = {16, 64, 256, 1024, 4096, 16384, 65536, 262144, 1048576};
     // The crossover of the other types: short taps against longer signals.
@@ -181,26 +164,26 @@ int main(int argc, char** argv)
             for (long long n2 : lengths) {
                 if (n1 > n2) continue;
                 const bool direct = n1 * n2 <= kDirectLimit;
-                benchmark::RegisterBenchmark("qsp/conv_32f", [](benchmark::State& s) { ours<float>(s, qspAlgAuto); })->Args({n1, n2});
+                benchmark::RegisterBenchmark("qsp/conv_32f", [](benchmark::State& s) { ours<float>(s, qspAlgAuto); })->UseManualTime()->Args({n1, n2});
                 if (direct) {
-                    benchmark::RegisterBenchmark("direct/conv_32f", [](benchmark::State& s) { ours<float>(s, qspAlgDirect); })->Args({n1, n2});
-                    benchmark::RegisterBenchmark("loop/conv_32f", loop)->Args({n1, n2});
+                    benchmark::RegisterBenchmark("direct/conv_32f", [](benchmark::State& s) { ours<float>(s, qspAlgDirect); })->UseManualTime()->Args({n1, n2});
+                    benchmark::RegisterBenchmark("loop/conv_32f", loop)->UseManualTime()->Args({n1, n2});
                 }
-                benchmark::RegisterBenchmark("fft/conv_32f", [](benchmark::State& s) { ours<float>(s, qspAlgFFT); })->Args({n1, n2});
-                benchmark::RegisterBenchmark("fftw/conv_32f", [](benchmark::State& s) { fftwConvolve(s, sys); })->Args({n1, n2});
+                benchmark::RegisterBenchmark("fft/conv_32f", [](benchmark::State& s) { ours<float>(s, qspAlgFFT); })->UseManualTime()->Args({n1, n2});
+                benchmark::RegisterBenchmark("fftw/conv_32f", [](benchmark::State& s) { fftwConvolve(s, sys); })->UseManualTime()->Args({n1, n2});
                 if (qspbench::fftwSse2f().available())
                     benchmark::RegisterBenchmark("fftw_sse2/conv_32f",
                                                  [](benchmark::State& s) { fftwConvolve(s, qspbench::fftwSse2f()); })
-                        ->Args({n1, n2});
+                        ->UseManualTime()->Args({n1, n2});
             }
         auto others = [&](const char* name, auto tag) {
             using T = decltype(tag);
             for (long long m : taps)
                 for (long long n : signals) {
                     const std::string c = std::string("conv_") + name;
-                    benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgAuto); })->Args({m, n});
-                    benchmark::RegisterBenchmark(("direct/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgDirect); })->Args({m, n});
-                    benchmark::RegisterBenchmark(("fft/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgFFT); })->Args({m, n});
+                    benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgAuto); })->UseManualTime()->Args({m, n});
+                    benchmark::RegisterBenchmark(("direct/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgDirect); })->UseManualTime()->Args({m, n});
+                    benchmark::RegisterBenchmark(("fft/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgFFT); })->UseManualTime()->Args({m, n});
                 }
         };
         others("32f_taps", float{});

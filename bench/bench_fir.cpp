@@ -28,7 +28,7 @@
 #include <vector>
 
 #include "fftw_sse2.h"
-#include "plain_fir.h"
+#include "fir_peers.h"
 #include "qsps.h"
 #include "ratio_reporter.h"
 
@@ -129,10 +129,9 @@ void ours(benchmark::State& state, QspAlgType alg, int samples)
     std::memset(static_cast<void*>(dly.data()), 0, sizeof(D) * n);
     const D* x = reinterpret_cast<const D*>(in.x());
     D* y = reinterpret_cast<D*>(out.x());
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         Ours<T>::filter(x, y, samples, reinterpret_cast<typename Ours<T>::S*>(spec), dly.data(), dly.data(), buf);
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, samples, n);
     qspsFree(spec), qspsFree(buf);
 }
@@ -144,10 +143,9 @@ void loop(benchmark::State& state)
     const int n = int(state.range(0));
     const auto h = testTaps(n);
     Signal in(n, kSamples), out(1, kSamples);
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         qspbench::loopFir(h.data(), n, in.x(), out.x(), kSamples);
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, kSamples, n);
 }
 
@@ -159,10 +157,9 @@ void liquidFirfilt(benchmark::State& state)
     auto h = testTaps(n);
     firfilt_rrrf q = firfilt_rrrf_create(h.data(), unsigned(n));
     Signal in(1, kSamples), out(1, kSamples);
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         firfilt_rrrf_execute_block(q, in.x(), unsigned(kSamples), out.x());
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, kSamples, n);
     firfilt_rrrf_destroy(q);
 }
@@ -175,10 +172,9 @@ void liquidFftfilt(benchmark::State& state)
     auto h = testTaps(n);
     fftfilt_rrrf q = fftfilt_rrrf_create(h.data(), unsigned(n), unsigned(block));
     Signal in(1, kSamples), out(1, kSamples);
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         for (int i = 0; i < kSamples; i += block) fftfilt_rrrf_execute(q, in.x() + i, out.x() + i);
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, kSamples, n);
     fftfilt_rrrf_destroy(q);
 }
@@ -206,7 +202,7 @@ void fftwOverlapSave(benchmark::State& state, const Api& api)
     api.execute_dft_r2c(fwd, real, taps);
     for (int k = 0; k <= L / 2; ++k) taps[k][0] /= float(L), taps[k][1] /= float(L);
     Signal in(n, kSamples), out(1, kSamples);
-    for (auto _ : state) {
+    qspbench::timeThread(state, [&] {
         for (int at = 0; at < kSamples; at += step) {
             const int outs = std::min(step, kSamples - at);
             const int have = std::min(L, kSamples - at + (n - 1));
@@ -221,26 +217,10 @@ void fftwOverlapSave(benchmark::State& state, const Api& api)
             api.execute_dft_c2r(inv, spec, real);
             std::memcpy(out.x() + at, real + (n - 1), sizeof(float) * outs);
         }
-        benchmark::ClobberMemory();
-    }
+    });
     setRate(state, kSamples, n);
     api.destroy_plan(fwd), api.destroy_plan(inv);
     api.free(real), api.free(spec), api.free(taps);
-}
-
-// The system FFTW through the same interface as the SSE2-only build.
-qspbench::FftwSse2f systemFftw()
-{
-    qspbench::FftwSse2f a;
-    a.plan_dft_r2c_1d = fftwf_plan_dft_r2c_1d;
-    a.plan_dft_c2r_1d = fftwf_plan_dft_c2r_1d;
-    a.execute_dft_r2c = fftwf_execute_dft_r2c;
-    a.execute_dft_c2r = fftwf_execute_dft_c2r;
-    a.destroy_plan = fftwf_destroy_plan;
-    a.malloc = fftwf_malloc;
-    a.free = fftwf_free;
-    a.execute = fftwf_execute;
-    return a;
 }
 
 }  // namespace
@@ -249,7 +229,7 @@ int main(int argc, char** argv)
 {
     std::printf("peers: %s, liquid-dsp %s, SSE2 FFTW %s\n", fftwf_version, LIQUID_VERSION,
                 qspbench::fftwSse2f().available() ? qspbench::fftwSse2f().version : "not found");
-    static const qspbench::FftwSse2f sys = systemFftw();
+    static const qspbench::FftwSse2f sys = qspbench::systemFftw();
     const int rounds = qspbench::takeRounds(argc, argv);
     const int peerTaps[] = {16, 64, 256, 1024, 4096};
     // The crossover: 2^18 samples per call, so that even 4096 taps run many
@@ -259,26 +239,27 @@ int main(int argc, char** argv)
         using T = decltype(tag);
         for (int n : xoverTaps) {
             const std::string c = std::string("xover_") + type;
-            benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgAuto, 1 << 18); })->Arg(n);
-            benchmark::RegisterBenchmark(("direct/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgDirect, 1 << 18); })->Arg(n);
-            benchmark::RegisterBenchmark(("fft/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgFFT, 1 << 18); })->Arg(n);
+            benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgAuto, 1 << 18); })->UseManualTime()->Arg(n);
+            benchmark::RegisterBenchmark(("direct/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgDirect, 1 << 18); })->UseManualTime()->Arg(n);
+            benchmark::RegisterBenchmark(("fft/" + c).c_str(), [](benchmark::State& s) { ours<T>(s, qspAlgFFT, 1 << 18); })->UseManualTime()->Arg(n);
         }
     };
     for (int round = 0; round < rounds; ++round) {
         for (int n : peerTaps) {
             const std::string c = "direct_32f";
-            benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<Qsp32f>(s, qspAlgDirect, kSamples); })->Arg(n);
-            benchmark::RegisterBenchmark(("loop/" + c).c_str(), loop)->Arg(n);
-            benchmark::RegisterBenchmark(("liquid/" + c).c_str(), liquidFirfilt)->Arg(n);
+            benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<Qsp32f>(s, qspAlgDirect, kSamples); })->UseManualTime()->Arg(n);
+            benchmark::RegisterBenchmark(("loop/" + c).c_str(), loop)->UseManualTime()->Arg(n);
+            benchmark::RegisterBenchmark(("liquid/" + c).c_str(), liquidFirfilt)->UseManualTime()->Arg(n);
         }
         for (int n : peerTaps) {
             const std::string c = "fft_32f";
-            benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<Qsp32f>(s, qspAlgFFT, kSamples); })->Arg(n);
-            benchmark::RegisterBenchmark(("liquid/" + c).c_str(), liquidFftfilt)->Arg(n);
-            benchmark::RegisterBenchmark(("fftw/" + c).c_str(), [](benchmark::State& s) { fftwOverlapSave(s, sys); })->Arg(n);
+            benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [](benchmark::State& s) { ours<Qsp32f>(s, qspAlgFFT, kSamples); })->UseManualTime()->Arg(n);
+            benchmark::RegisterBenchmark(("liquid/" + c).c_str(), liquidFftfilt)->UseManualTime()->Arg(n);
+            benchmark::RegisterBenchmark(("fftw/" + c).c_str(), [](benchmark::State& s) { fftwOverlapSave(s, sys); })->UseManualTime()->Arg(n);
             if (qspbench::fftwSse2f().available())
                 benchmark::RegisterBenchmark(("fftw_sse2/" + c).c_str(),
                                              [](benchmark::State& s) { fftwOverlapSave(s, qspbench::fftwSse2f()); })
+                    ->UseManualTime()
                     ->Arg(n);
         }
         xover("32f", Qsp32f{});

@@ -40,27 +40,21 @@ inline T* alignUp64(T* p)
 
 // ---------------------------------------------------------------- element types
 
+// The part type and the direct kernel's kind of a data type: real data with
+// real taps, complex data (a pair of parts) with complex taps.
+template <class D, bool = std::is_floating_point_v<D>>
+struct PartOf {
+    using type = D;
+};
 template <class D>
-struct Traits;
-template <>
-struct Traits<Qsp32f> {
-    using Part = float;
-    using Kind = fir::RealKind<float>;
+struct PartOf<D, false> {
+    using type = decltype(D::re);
 };
-template <>
-struct Traits<Qsp64f> {
-    using Part = double;
-    using Kind = fir::RealKind<double>;
-};
-template <>
-struct Traits<Qsp32fc> {
-    using Part = float;
-    using Kind = fir::ComplexKind<float>;
-};
-template <>
-struct Traits<Qsp64fc> {
-    using Part = double;
-    using Kind = fir::ComplexKind<double>;
+
+template <class D>
+struct Traits {
+    using Part = typename PartOf<D>::type;
+    using Kind = std::conditional_t<std::is_floating_point_v<D>, fir::RealKind<Part>, fir::ComplexKind<Part>>;
 };
 
 // Tap i is p[i * Step], conjugated when Conj (complex types only).

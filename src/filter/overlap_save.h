@@ -20,73 +20,38 @@ namespace overlap {
 // Inverse transform divided by the length.
 constexpr int kFlag = 2;
 
-// The transforms of one data type.
+// The transforms of one data type: the record type and the size query,
+// initialiser, forward and inverse transforms and spectrum product that
+// belong together.
+template <class S, auto GetSize, auto Init, auto Forward, auto Inverse, auto Multiply>
+struct FftOps {
+    using Spec = S;
+    static QspStatus getSize(int order, int* spec, int* init, int* work) { return GetSize(order, kFlag, 0, spec, init, work); }
+    static QspStatus init(Spec** rec, int order, Qsp8u* mem, Qsp8u* buf) { return Init(rec, order, kFlag, 0, mem, buf); }
+    template <class D>
+    static QspStatus forward(const D* s, D* d, const Spec* r, Qsp8u* w) { return Forward(s, d, r, w); }
+    template <class D>
+    static QspStatus inverse(const D* s, D* d, const Spec* r, Qsp8u* w) { return Inverse(s, d, r, w); }
+    template <class D>
+    static QspStatus multiply(const D* h, D* d, int len) { return Multiply(h, d, len); }
+};
+
 template <class D>
 struct Fft;
-
+// Real data: the real transform and its Perm-packed spectrum.
 template <>
-struct Fft<Qsp32f> {
-    using Spec = QspsFFTSpec_R_32f;
-    static QspStatus getSize(int order, int* spec, int* init, int* work)
-    {
-        return y8::qspsFFTGetSize_R_32f(order, kFlag, 0, spec, init, work);
-    }
-    static QspStatus init(Spec** rec, int order, Qsp8u* mem, Qsp8u* buf)
-    {
-        return y8::qspsFFTInit_R_32f(rec, order, kFlag, 0, mem, buf);
-    }
-    static QspStatus forward(const Qsp32f* s, Qsp32f* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTFwd_RToPerm_32f(s, d, r, w); }
-    static QspStatus inverse(const Qsp32f* s, Qsp32f* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTInv_PermToR_32f(s, d, r, w); }
-    static QspStatus multiply(const Qsp32f* h, Qsp32f* d, int len) { return y8::qspsMulPerm_32f_I(h, d, len); }
-};
-
+struct Fft<Qsp32f> : FftOps<QspsFFTSpec_R_32f, y8::qspsFFTGetSize_R_32f, y8::qspsFFTInit_R_32f, y8::qspsFFTFwd_RToPerm_32f,
+                            y8::qspsFFTInv_PermToR_32f, y8::qspsMulPerm_32f_I> {};
 template <>
-struct Fft<Qsp64f> {
-    using Spec = QspsFFTSpec_R_64f;
-    static QspStatus getSize(int order, int* spec, int* init, int* work)
-    {
-        return y8::qspsFFTGetSize_R_64f(order, kFlag, 0, spec, init, work);
-    }
-    static QspStatus init(Spec** rec, int order, Qsp8u* mem, Qsp8u* buf)
-    {
-        return y8::qspsFFTInit_R_64f(rec, order, kFlag, 0, mem, buf);
-    }
-    static QspStatus forward(const Qsp64f* s, Qsp64f* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTFwd_RToPerm_64f(s, d, r, w); }
-    static QspStatus inverse(const Qsp64f* s, Qsp64f* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTInv_PermToR_64f(s, d, r, w); }
-    static QspStatus multiply(const Qsp64f* h, Qsp64f* d, int len) { return y8::qspsMulPerm_64f_I(h, d, len); }
-};
-
+struct Fft<Qsp64f> : FftOps<QspsFFTSpec_R_64f, y8::qspsFFTGetSize_R_64f, y8::qspsFFTInit_R_64f, y8::qspsFFTFwd_RToPerm_64f,
+                            y8::qspsFFTInv_PermToR_64f, y8::qspsMulPerm_64f_I> {};
+// Complex data: the complex transform and a complex product.
 template <>
-struct Fft<Qsp32fc> {
-    using Spec = QspsFFTSpec_C_32fc;
-    static QspStatus getSize(int order, int* spec, int* init, int* work)
-    {
-        return y8::qspsFFTGetSize_C_32fc(order, kFlag, 0, spec, init, work);
-    }
-    static QspStatus init(Spec** rec, int order, Qsp8u* mem, Qsp8u* buf)
-    {
-        return y8::qspsFFTInit_C_32fc(rec, order, kFlag, 0, mem, buf);
-    }
-    static QspStatus forward(const Qsp32fc* s, Qsp32fc* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTFwd_CToC_32fc(s, d, r, w); }
-    static QspStatus inverse(const Qsp32fc* s, Qsp32fc* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTInv_CToC_32fc(s, d, r, w); }
-    static QspStatus multiply(const Qsp32fc* h, Qsp32fc* d, int len) { return y8::qspsMul_32fc_I(h, d, len); }
-};
-
+struct Fft<Qsp32fc> : FftOps<QspsFFTSpec_C_32fc, y8::qspsFFTGetSize_C_32fc, y8::qspsFFTInit_C_32fc,
+                             y8::qspsFFTFwd_CToC_32fc, y8::qspsFFTInv_CToC_32fc, y8::qspsMul_32fc_I> {};
 template <>
-struct Fft<Qsp64fc> {
-    using Spec = QspsFFTSpec_C_64fc;
-    static QspStatus getSize(int order, int* spec, int* init, int* work)
-    {
-        return y8::qspsFFTGetSize_C_64fc(order, kFlag, 0, spec, init, work);
-    }
-    static QspStatus init(Spec** rec, int order, Qsp8u* mem, Qsp8u* buf)
-    {
-        return y8::qspsFFTInit_C_64fc(rec, order, kFlag, 0, mem, buf);
-    }
-    static QspStatus forward(const Qsp64fc* s, Qsp64fc* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTFwd_CToC_64fc(s, d, r, w); }
-    static QspStatus inverse(const Qsp64fc* s, Qsp64fc* d, const Spec* r, Qsp8u* w) { return y8::qspsFFTInv_CToC_64fc(s, d, r, w); }
-    static QspStatus multiply(const Qsp64fc* h, Qsp64fc* d, int len) { return y8::qspsMul_64fc_I(h, d, len); }
-};
+struct Fft<Qsp64fc> : FftOps<QspsFFTSpec_C_64fc, y8::qspsFFTGetSize_C_64fc, y8::qspsFFTInit_C_64fc,
+                             y8::qspsFFTFwd_CToC_64fc, y8::qspsFFTInv_CToC_64fc, y8::qspsMul_64fc_I> {};
 
 // Byte sizes of a transform of 2^order for data type D, as its GetSize
 // reports them (spec, init buffer, work buffer), in 64-bit arithmetic;

@@ -9,41 +9,28 @@ namespace convtest {
 
 using namespace firref;
 
-struct C32f {
-    using D = Qsp32f;
-    using Part = float;
+// One floating type with its Convolve, CrossCorrNorm and AutoCorrNorm.
+template <class D_, QspDataType Code, auto Convolve, auto Cross, auto Auto>
+struct Calls {
+    using D = D_;
+    using Part = typename Elem<D>::Part;
+    static constexpr QspDataType type = Code;
+    static constexpr auto convolve = Convolve;
+    static constexpr auto cross = Cross;
+    static constexpr auto autoc = Auto;
+};
+
+struct C32f : Calls<Qsp32f, qsp32f, qspsConvolve_32f, qspsCrossCorrNorm_32f, qspsAutoCorrNorm_32f> {
     static constexpr const char* name = "32f";
-    static constexpr QspDataType type = qsp32f;
-    static constexpr auto convolve = qspsConvolve_32f;
-    static constexpr auto cross = qspsCrossCorrNorm_32f;
-    static constexpr auto autoc = qspsAutoCorrNorm_32f;
 };
-struct C64f {
-    using D = Qsp64f;
-    using Part = double;
+struct C64f : Calls<Qsp64f, qsp64f, qspsConvolve_64f, qspsCrossCorrNorm_64f, qspsAutoCorrNorm_64f> {
     static constexpr const char* name = "64f";
-    static constexpr QspDataType type = qsp64f;
-    static constexpr auto convolve = qspsConvolve_64f;
-    static constexpr auto cross = qspsCrossCorrNorm_64f;
-    static constexpr auto autoc = qspsAutoCorrNorm_64f;
 };
-struct C32fc {
-    using D = Qsp32fc;
-    using Part = float;
+struct C32fc : Calls<Qsp32fc, qsp32fc, qspsConvolve_32fc, qspsCrossCorrNorm_32fc, qspsAutoCorrNorm_32fc> {
     static constexpr const char* name = "32fc";
-    static constexpr QspDataType type = qsp32fc;
-    static constexpr auto convolve = qspsConvolve_32fc;
-    static constexpr auto cross = qspsCrossCorrNorm_32fc;
-    static constexpr auto autoc = qspsAutoCorrNorm_32fc;
 };
-struct C64fc {
-    using D = Qsp64fc;
-    using Part = double;
+struct C64fc : Calls<Qsp64fc, qsp64fc, qspsConvolve_64fc, qspsCrossCorrNorm_64fc, qspsAutoCorrNorm_64fc> {
     static constexpr const char* name = "64fc";
-    static constexpr QspDataType type = qsp64fc;
-    static constexpr auto convolve = qspsConvolve_64fc;
-    static constexpr auto cross = qspsCrossCorrNorm_64fc;
-    static constexpr auto autoc = qspsAutoCorrNorm_64fc;
 };
 
 // Caller memory of a reported size, at an offset from a 64-byte boundary.

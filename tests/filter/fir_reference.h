@@ -6,6 +6,7 @@
 #pragma once
 #include <cmath>
 #include <complex>
+#include <cstring>
 #include <algorithm>
 #include <limits>
 #include <utility>
@@ -86,6 +87,26 @@ std::vector<T> random16(size_t n, int lo = -32768, int hi = 32767)
     for (size_t i = 0; i < n * sizeof(T) / 2; ++i) p[i] = Qsp16s(d(qsptest::rng()));
     return v;
 }
+
+// A copy of n values starting `offset` bytes past a 16-byte boundary, off
+// the natural alignment of the type; at(i) reads a value back.
+template <class T>
+struct Shifted {
+    std::vector<unsigned char> raw;
+    T* p;
+    Shifted(const T* v, size_t n, int offset) : raw(n * sizeof(T) + 32)
+    {
+        auto* base = reinterpret_cast<unsigned char*>((reinterpret_cast<uintptr_t>(raw.data()) + 15) & ~uintptr_t(15));
+        p = reinterpret_cast<T*>(base + offset);
+        if (v) std::memcpy(static_cast<void*>(p), v, n * sizeof(T));
+    }
+    T at(size_t i) const
+    {
+        T x;
+        std::memcpy(static_cast<void*>(&x), p + i, sizeof(T));
+        return x;
+    }
+};
 
 inline long double mag(LC z) { return std::abs(z.real()) + std::abs(z.imag()); }
 

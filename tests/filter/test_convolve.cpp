@@ -195,17 +195,11 @@ TYPED_TEST(ConvTyped, MisalignedOperandsAndBuffers)
         std::vector<D> want(count);
         ASSERT_EQ(A::convolve(a.data(), b.data(), want.data(), n1, n2, alg, ref.p), qspStsOk);
         for (int off : {1, 3, 5}) {
-            std::vector<Qsp8u> ra(n1 * sizeof(D) + 16), rb(n2 * sizeof(D) + 16), ry(count * sizeof(D) + 16);
-            D* pa = reinterpret_cast<D*>(ra.data() + off);
-            D* pb = reinterpret_cast<D*>(rb.data() + off + 2);
-            D* py = reinterpret_cast<D*>(ry.data() + off + 4);
-            std::memcpy(static_cast<void*>(pa), a.data(), n1 * sizeof(D));
-            std::memcpy(static_cast<void*>(pb), b.data(), n2 * sizeof(D));
+            const Shifted<D> pa(a.data(), n1, off), pb(b.data(), n2, off + 2), py(nullptr, count, off + 4);
             Buffer buf(bufferFor(n1, n2, A::type, alg), off * 7);
-            ASSERT_EQ(A::convolve(pa, pb, py, n1, n2, alg, buf.p), qspStsOk);
+            ASSERT_EQ(A::convolve(pa.p, pb.p, py.p, n1, n2, alg, buf.p), qspStsOk);
             for (int j = 0; j < count; ++j) {
-                D got;
-                std::memcpy(static_cast<void*>(&got), py + j, sizeof(D));
+                const D got = py.at(j);
                 ASSERT_TRUE(qsptest::sameBits(got, want[j])) << off << " " << j;
             }
         }

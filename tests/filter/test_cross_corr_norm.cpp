@@ -128,17 +128,11 @@ TYPED_TEST(CorrTyped, MisalignedOperandsAndBuffers)
         std::vector<D> want(len);
         ASSERT_EQ(A::cross(a.data(), b.data(), want.data(), n1, n2, len, lowLag, alg, qspNormBiased, ref.p), qspStsOk);
         for (int off : {1, 2, 7}) {
-            std::vector<Qsp8u> ra(n1 * sizeof(D) + 16), rb(n2 * sizeof(D) + 16), ry(len * sizeof(D) + 16);
-            D* pa = reinterpret_cast<D*>(ra.data() + off);
-            D* pb = reinterpret_cast<D*>(rb.data() + off + 1);
-            D* py = reinterpret_cast<D*>(ry.data() + off + 2);
-            std::memcpy(static_cast<void*>(pa), a.data(), n1 * sizeof(D));
-            std::memcpy(static_cast<void*>(pb), b.data(), n2 * sizeof(D));
+            const Shifted<D> pa(a.data(), n1, off), pb(b.data(), n2, off + 1), py(nullptr, len, off + 2);
             Buffer buf(crossBuffer(n1, n2, len, lowLag, A::type, alg), off * 5);
-            ASSERT_EQ(A::cross(pa, pb, py, n1, n2, len, lowLag, alg, qspNormBiased, buf.p), qspStsOk);
+            ASSERT_EQ(A::cross(pa.p, pb.p, py.p, n1, n2, len, lowLag, alg, qspNormBiased, buf.p), qspStsOk);
             for (int k = 0; k < len; ++k) {
-                D got;
-                std::memcpy(static_cast<void*>(&got), py + k, sizeof(D));
+                const D got = py.at(k);
                 ASSERT_TRUE(qsptest::sameBits(got, want[k])) << off << " " << k;
             }
         }

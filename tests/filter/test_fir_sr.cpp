@@ -27,53 +27,47 @@ struct RecordView {
     Qsp32u fftLen;
 };
 
-template <class D_, class T_, class S_>
+// One filter type: data D, taps T, record S, the documented constants, and
+// its size query, Init, filter and the FFT size query its record embeds.
+template <class D_, class T_, class S_, int FftTaps, int FftIters, int Staging, int SplitFrom, int FftId,
+          auto GetSize, auto Init, auto Filter, auto FftGetSize>
 struct Api {
     using D = D_;
     using T = T_;
     using Spec = S_;
     using Part = typename Elem<D>::Part;
+    static constexpr int fftTaps = FftTaps, fftIters = FftIters, staging = Staging, splitFrom = SplitFrom, fftId = FftId;
+    static constexpr auto getSize = GetSize;
+    static constexpr auto init = Init;
+    static constexpr auto filter = Filter;
+    static QspStatus fftGetSize(int o, int* s, int* i, int* w) { return FftGetSize(o, 2, 0, s, i, w); }
 };
 
-struct F32 : Api<Qsp32f, Qsp32f, QspsFIRSpec_32f> {
+template <QspDataType Code>
+QspStatus sizeOf(int n, int* s, int* b)
+{
+    return qspsFIRSRGetSize(n, Code, s, b);
+}
+
+struct F32 : Api<Qsp32f, Qsp32f, QspsFIRSpec_32f, 64, 128, 8192, 32, 7, sizeOf<qsp32f>, qspsFIRSRInit_32f,
+                 qspsFIRSR_32f, qspsFFTGetSize_R_32f> {
     static constexpr const char* name = "32f";
-    static constexpr int fftTaps = 64, fftIters = 128, staging = 8192, splitFrom = 32, fftId = 7, perVector = 4;
-    static QspStatus getSize(int n, int* s, int* b) { return qspsFIRSRGetSize(n, qsp32f, s, b); }
-    static constexpr auto init = qspsFIRSRInit_32f;
-    static constexpr auto filter = qspsFIRSR_32f;
-    static QspStatus fftGetSize(int o, int* s, int* i, int* w) { return qspsFFTGetSize_R_32f(o, 2, 0, s, i, w); }
 };
-struct F64 : Api<Qsp64f, Qsp64f, QspsFIRSpec_64f> {
+struct F64 : Api<Qsp64f, Qsp64f, QspsFIRSpec_64f, 38, 128, 4096, 9, 10, sizeOf<qsp64f>, qspsFIRSRInit_64f,
+                 qspsFIRSR_64f, qspsFFTGetSize_R_64f> {
     static constexpr const char* name = "64f";
-    static constexpr int fftTaps = 38, fftIters = 128, staging = 4096, splitFrom = 9, fftId = 10, perVector = 2;
-    static QspStatus getSize(int n, int* s, int* b) { return qspsFIRSRGetSize(n, qsp64f, s, b); }
-    static constexpr auto init = qspsFIRSRInit_64f;
-    static constexpr auto filter = qspsFIRSR_64f;
-    static QspStatus fftGetSize(int o, int* s, int* i, int* w) { return qspsFFTGetSize_R_64f(o, 2, 0, s, i, w); }
 };
-struct F32fc : Api<Qsp32fc, Qsp32fc, QspsFIRSpec_32fc> {
+struct F32fc : Api<Qsp32fc, Qsp32fc, QspsFIRSpec_32fc, 18, 256, 4096, 32, 5, sizeOf<qsp32fc>, qspsFIRSRInit_32fc,
+                   qspsFIRSR_32fc, qspsFFTGetSize_C_32fc> {
     static constexpr const char* name = "32fc";
-    static constexpr int fftTaps = 18, fftIters = 256, staging = 4096, splitFrom = 32, fftId = 5, perVector = 2;
-    static QspStatus getSize(int n, int* s, int* b) { return qspsFIRSRGetSize(n, qsp32fc, s, b); }
-    static constexpr auto init = qspsFIRSRInit_32fc;
-    static constexpr auto filter = qspsFIRSR_32fc;
-    static QspStatus fftGetSize(int o, int* s, int* i, int* w) { return qspsFFTGetSize_C_32fc(o, 2, 0, s, i, w); }
 };
-struct F64fc : Api<Qsp64fc, Qsp64fc, QspsFIRSpec_64fc> {
+struct F64fc : Api<Qsp64fc, Qsp64fc, QspsFIRSpec_64fc, 18, 256, 2048, 32, 8, sizeOf<qsp64fc>, qspsFIRSRInit_64fc,
+                   qspsFIRSR_64fc, qspsFFTGetSize_C_64fc> {
     static constexpr const char* name = "64fc";
-    static constexpr int fftTaps = 18, fftIters = 256, staging = 2048, splitFrom = 32, fftId = 8, perVector = 1;
-    static QspStatus getSize(int n, int* s, int* b) { return qspsFIRSRGetSize(n, qsp64fc, s, b); }
-    static constexpr auto init = qspsFIRSRInit_64fc;
-    static constexpr auto filter = qspsFIRSR_64fc;
-    static QspStatus fftGetSize(int o, int* s, int* i, int* w) { return qspsFFTGetSize_C_64fc(o, 2, 0, s, i, w); }
 };
-struct F32f32fc : Api<Qsp32fc, Qsp32f, QspsFIRSpec32f_32fc> {
+struct F32f32fc : Api<Qsp32fc, Qsp32f, QspsFIRSpec32f_32fc, 64, 256, 4096, 32, 5, qspsFIRSRGetSize32f_32fc,
+                      qspsFIRSRInit32f_32fc, qspsFIRSR32f_32fc, qspsFFTGetSize_C_32fc> {
     static constexpr const char* name = "32f_32fc";
-    static constexpr int fftTaps = 64, fftIters = 256, staging = 4096, splitFrom = 32, fftId = 5, perVector = 2;
-    static QspStatus getSize(int n, int* s, int* b) { return qspsFIRSRGetSize32f_32fc(n, s, b); }
-    static constexpr auto init = qspsFIRSRInit32f_32fc;
-    static constexpr auto filter = qspsFIRSR32f_32fc;
-    static QspStatus fftGetSize(int o, int* s, int* i, int* w) { return qspsFFTGetSize_C_32fc(o, 2, 0, s, i, w); }
 };
 
 template <class A>
@@ -681,16 +675,11 @@ TYPED_TEST(FirTyped, RecordsAndBuffersAtOddAddresses)
     ASSERT_EQ(ref.run(x.data(), want.data(), count, hist.data(), nullptr), qspStsOk);
     for (int off : {1, 2, 3, 7, 33, 63}) {
         Filter<A> f(taps.data(), n, qspAlgAuto, off, off);
-        // Data one byte off their natural alignment as well.
-        std::vector<Qsp8u> raw((count + 2) * sizeof(D) + 8);
-        D* src = reinterpret_cast<D*>(raw.data() + 1);
-        std::memcpy(static_cast<void*>(src), x.data(), count * sizeof(D));
-        std::vector<Qsp8u> rawOut((count + 2) * sizeof(D) + 8);
-        D* dst = reinterpret_cast<D*>(rawOut.data() + 3);
-        ASSERT_EQ(f.run(src, dst, count, hist.data(), nullptr), qspStsOk);
+        // Data off their natural alignment as well.
+        const Shifted<D> src(x.data(), count, 1), dst(nullptr, count, 3);
+        ASSERT_EQ(f.run(src.p, dst.p, count, hist.data(), nullptr), qspStsOk);
         for (int i = 0; i < count; ++i) {
-            D got;
-            std::memcpy(static_cast<void*>(&got), dst + i, sizeof(D));
+            const D got = dst.at(i);
             ASSERT_TRUE(qsptest::sameBits(got, want[i])) << off << " " << i;
         }
     }

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
 // What the FIR and convolution benchmarks share: the plain register-blocked
-// 128-bit FIR loop they compare the library's direct form with, and the
-// interleaving of cases in rounds.
+// 128-bit FIR loop they compare the library's direct form with, the system
+// FFTW behind the interface of the SSE2-only one, timing by the thread's
+// processor time, and the interleaving of cases in rounds.
 #pragma once
+#include <benchmark/benchmark.h>
+#include <fftw3.h>
 #include <nmmintrin.h>
+#include <time.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+
+#include "fftw_sse2.h"
 
 namespace qspbench {
 
@@ -38,6 +44,43 @@ inline void loopFir(const float* h, int n, const float* x, float* y, int count)
         float a = 0;
         for (int k = 0; k < n; ++k) a += h[k] * x[i - k];
         y[i] = a;
+    }
+}
+
+// The system FFTW through the same interface as the SSE2-only build.
+inline FftwSse2f systemFftw()
+{
+    FftwSse2f a;
+    a.plan_dft_r2c_1d = fftwf_plan_dft_r2c_1d;
+    a.plan_dft_c2r_1d = fftwf_plan_dft_c2r_1d;
+    a.execute_dft_r2c = fftwf_execute_dft_r2c;
+    a.execute_dft_c2r = fftwf_execute_dft_c2r;
+    a.destroy_plan = fftwf_destroy_plan;
+    a.malloc = fftwf_malloc;
+    a.free = fftwf_free;
+    a.execute = fftwf_execute;
+    return a;
+}
+
+// The processor time of this thread, in seconds. The shared machine runs
+// far more threads than it has cores: wall time measures the scheduler,
+// the thread's own time measures the code. Cases using it are registered
+// with UseManualTime().
+inline double threadSeconds()
+{
+    timespec ts;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+    return double(ts.tv_sec) + double(ts.tv_nsec) * 1e-9;
+}
+
+template <class Body>
+void timeThread(benchmark::State& state, Body&& body)
+{
+    for (auto _ : state) {
+        const double t0 = threadSeconds();
+        body();
+        benchmark::ClobberMemory();
+        state.SetIterationTime(threadSeconds() - t0);
     }
 }
 
