@@ -1940,8 +1940,10 @@ QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
  * N-1-numIters samples of pDlySrc (zeros if null) and then all of pSrc. With
  * N = 1 no delay line is read or written.
  * Aliasing: pSrc == pDst (in place), pDst == pDlySrc and pDlySrc == pDlyDst
- * (continuing a stream) are allowed and give the results of separate arrays;
- * other overlaps are not. pBuf holds nothing between calls.
+ * (continuing a stream) are allowed and give the results of separate arrays
+ * (overlap-save to rounding: in place it runs in staging blocks of 32768
+ * bytes of samples); other overlaps are not. pBuf holds nothing between
+ * calls.
  * Checks: null pSpec, then null pSrc, pDst or pBuf qspStsNullPtr; numIters < 1
  * qspStsBadSize. Nothing is written on error.
  *
