@@ -57,4 +57,52 @@ TEST(AutoCorr16, EveryNormalisationIsExact)
     }
 }
 
+// Source, destination and buffer at any byte offset give the same bits.
+TYPED_TEST(AutoCorrTyped, MisalignedPointers)
+{
+    using A = TypeParam;
+    using D = typename A::D;
+    const int n = 333, len = 150;
+    const auto x = randomSignal<D>(n);
+    for (QspAlgType alg : kAlgs) {
+        int bytes;
+        ASSERT_EQ(qspsAutoCorrNormGetBufferSize(n, len, A::type, alg, &bytes), qspStsOk);
+        Buffer ref(bytes);
+        std::vector<D> want(len);
+        ASSERT_EQ(A::autoc(x.data(), want.data(), n, len, alg, qspNormUnbiased, ref.p), qspStsOk);
+        for (int off : {1, 2, 7}) {
+            const Shifted<D> px(x.data(), n, off), py(nullptr, len, off + 1);
+            Buffer buf(bytes, off * 3);
+            ASSERT_EQ(A::autoc(px.p, py.p, n, len, alg, qspNormUnbiased, buf.p), qspStsOk);
+            for (int k = 0; k < len; ++k) ASSERT_TRUE(qsptest::sameBits(py.at(k), want[k])) << off << " " << k;
+        }
+    }
+}
+
+TEST(AutoCorr16, MisalignedPointers)
+{
+    const int n = 333, len = 150;
+    const auto x = random16<Qsp16s>(n);
+    for (QspAlgType alg : kAlgs) {
+        int bytes;
+        ASSERT_EQ(qspsAutoCorrNormGetBufferSize(n, len, qsp16s, alg, &bytes), qspStsOk);
+        Buffer ref(bytes);
+        std::vector<Qsp16s> want(len);
+        std::vector<Qsp32f> wantf(len);
+        ASSERT_EQ(qspsAutoCorrNorm_16s_Sfs(x.data(), want.data(), n, len, alg, qspNormBiased, ref.p, 3), qspStsOk);
+        ASSERT_EQ(qspsAutoCorrNorm_16s32f(x.data(), wantf.data(), n, len, alg, qspNormNone, ref.p), qspStsOk);
+        for (int off : {1, 2, 6}) {
+            const Shifted<Qsp16s> px(x.data(), n, off), py(nullptr, len, off + 1);
+            const Shifted<Qsp32f> pf(nullptr, len, off + 2);
+            Buffer buf(bytes, off * 3);
+            ASSERT_EQ(qspsAutoCorrNorm_16s_Sfs(px.p, py.p, n, len, alg, qspNormBiased, buf.p, 3), qspStsOk);
+            ASSERT_EQ(qspsAutoCorrNorm_16s32f(px.p, pf.p, n, len, alg, qspNormNone, buf.p), qspStsOk);
+            for (int k = 0; k < len; ++k) {
+                ASSERT_EQ(py.at(k), want[k]) << off << " " << k;
+                ASSERT_TRUE(qsptest::sameBits(pf.at(k), wantf[k])) << off << " " << k;
+            }
+        }
+    }
+}
+
 }  // namespace

@@ -323,4 +323,36 @@ TEST(Convolve16, ChecksPointersThenLengthsThenAlgorithm)
     EXPECT_TRUE(y.untouched() && yf.untouched());
 }
 
+// 16-bit operands and destinations at any byte offset give the same values;
+// both operands may be the same array.
+TEST(Convolve16, MisalignedPointersAndSharedOperand)
+{
+    const int n1 = 45, n2 = 333, count = n1 + n2 - 1;
+    const auto a = random16<Qsp16s>(n1), b = random16<Qsp16s>(n2);
+    for (QspAlgType alg : kAlgs) {
+        Buffer ref(bufferFor(n1, n2, qsp16s, alg));
+        std::vector<Qsp16s> want(count);
+        std::vector<Qsp32f> wantf(count);
+        ASSERT_EQ(qspsConvolve_16s_Sfs(a.data(), b.data(), want.data(), n1, n2, alg, ref.p, 14), qspStsOk);
+        ASSERT_EQ(qspsConvolve_16s32f(a.data(), b.data(), wantf.data(), n1, n2, alg, ref.p), qspStsOk);
+        for (int off : {1, 2, 6}) {
+            const Shifted<Qsp16s> pa(a.data(), n1, off), pb(b.data(), n2, off + 1), py(nullptr, count, off + 2);
+            const Shifted<Qsp32f> pf(nullptr, count, off + 3);
+            Buffer buf(bufferFor(n1, n2, qsp16s, alg), off * 7);
+            ASSERT_EQ(qspsConvolve_16s_Sfs(pa.p, pb.p, py.p, n1, n2, alg, buf.p, 14), qspStsOk);
+            ASSERT_EQ(qspsConvolve_16s32f(pa.p, pb.p, pf.p, n1, n2, alg, buf.p), qspStsOk);
+            for (int j = 0; j < count; ++j) {
+                ASSERT_EQ(py.at(j), want[j]) << off << " " << j;
+                ASSERT_TRUE(qsptest::sameBits(pf.at(j), wantf[j])) << off << " " << j;
+            }
+        }
+        const std::vector<Qsp16s> copy = b;
+        Buffer sb(bufferFor(n2, n2, qsp16s, alg));
+        std::vector<Qsp16s> self(2 * n2 - 1), other(2 * n2 - 1);
+        ASSERT_EQ(qspsConvolve_16s_Sfs(b.data(), b.data(), self.data(), n2, n2, alg, sb.p, 16), qspStsOk);
+        ASSERT_EQ(qspsConvolve_16s_Sfs(b.data(), copy.data(), other.data(), n2, n2, alg, sb.p, 16), qspStsOk);
+        for (int j = 0; j < 2 * n2 - 1; ++j) ASSERT_EQ(self[j], other[j]) << j;
+    }
+}
+
 }  // namespace

@@ -139,6 +139,38 @@ TYPED_TEST(CorrTyped, MisalignedOperandsAndBuffers)
     }
 }
 
+// Both operands the same array: the bits of the same values in two arrays.
+TYPED_TEST(CorrTyped, SharedOperandEqualsACopy)
+{
+    using A = TypeParam;
+    using D = typename A::D;
+    const int n = 300, len = 120, lowLag = -60;
+    const auto x = randomSignal<D>(n);
+    const std::vector<D> copy = x;
+    for (QspAlgType alg : kAlgs)
+        for (QspCorrNorm norm : kNorms) {
+            Buffer buf(crossBuffer(n, n, len, lowLag, A::type, alg));
+            std::vector<D> self(len), want(len);
+            ASSERT_EQ(A::cross(x.data(), x.data(), self.data(), n, n, len, lowLag, alg, norm, buf.p), qspStsOk);
+            ASSERT_EQ(A::cross(x.data(), copy.data(), want.data(), n, n, len, lowLag, alg, norm, buf.p), qspStsOk);
+            for (int k = 0; k < len; ++k) ASSERT_TRUE(qsptest::sameBits(self[k], want[k])) << alg << " " << norm << " " << k;
+        }
+}
+
+// A million samples: a sample of lags, both ends of the range and the
+// middle, every normalisation.
+TYPED_TEST(CorrTyped, HeavyMillionSamples)
+{
+    using A = TypeParam;
+    using D = typename A::D;
+    const int n1 = 1000000, n2 = 1000000;
+    const auto a = randomSignal<D>(n1), b = randomSignal<D>(n2);
+    for (int lowLag : {-(n1 - 1), -20, n2 - 20}) {
+        const QspAlgType algs[] = {qspAlgAuto, qspAlgFFT};
+        for (QspAlgType alg : algs) checkCross<A>(a, b, 20, lowLag, alg, lowLag == -20 ? qspNormUnitEnergy : qspNormUnbiased);
+    }
+}
+
 // ---------------------------------------------------------------- 16-bit
 
 TEST(Corr16, EveryLengthPairUpTo64IsExact)
@@ -215,6 +247,49 @@ TEST(Corr16, ChecksPointersLengthsAlgorithmThenNormalisation)
     EXPECT_EQ(qspsAutoCorrNorm_16s32f(a, yf.data(), 3, 5, -2, 0, buf.p), qspStsBadAlgType);
     EXPECT_EQ(qspsAutoCorrNorm_16s32f(a, yf.data(), 3, 5, 0, 7, buf.p), qspStsBadArgument);
     EXPECT_TRUE(y.untouched() && yf.untouched());
+}
+
+// 16-bit operands and destinations at any byte offset give the same values;
+// both operands may be the same array.
+TEST(Corr16, MisalignedPointersAndSharedOperand)
+{
+    const int n1 = 45, n2 = 300, len = 200, lowLag = -20;
+    const auto a = random16<Qsp16s>(n1), b = random16<Qsp16s>(n2);
+    for (QspAlgType alg : kAlgs) {
+        Buffer ref(crossBuffer(n1, n2, len, lowLag, qsp16s, alg));
+        std::vector<Qsp16s> want(len);
+        std::vector<Qsp32f> wantf(len);
+        ASSERT_EQ(qspsCrossCorrNorm_16s_Sfs(a.data(), b.data(), want.data(), n1, n2, len, lowLag, alg, qspNormNone,
+                                            ref.p, 12),
+                  qspStsOk);
+        ASSERT_EQ(qspsCrossCorrNorm_16s32f(a.data(), b.data(), wantf.data(), n1, n2, len, lowLag, alg, qspNormBiased,
+                                           ref.p),
+                  qspStsOk);
+        for (int off : {1, 2, 6}) {
+            const Shifted<Qsp16s> pa(a.data(), n1, off), pb(b.data(), n2, off + 1), py(nullptr, len, off + 2);
+            const Shifted<Qsp32f> pf(nullptr, len, off + 3);
+            Buffer buf(crossBuffer(n1, n2, len, lowLag, qsp16s, alg), off * 5);
+            ASSERT_EQ(qspsCrossCorrNorm_16s_Sfs(pa.p, pb.p, py.p, n1, n2, len, lowLag, alg, qspNormNone, buf.p, 12),
+                      qspStsOk);
+            ASSERT_EQ(qspsCrossCorrNorm_16s32f(pa.p, pb.p, pf.p, n1, n2, len, lowLag, alg, qspNormBiased, buf.p),
+                      qspStsOk);
+            for (int k = 0; k < len; ++k) {
+                ASSERT_EQ(py.at(k), want[k]) << off << " " << k;
+                ASSERT_TRUE(qsptest::sameBits(pf.at(k), wantf[k])) << off << " " << k;
+            }
+        }
+        const std::vector<Qsp16s> copy = b;
+        Buffer sb(crossBuffer(n2, n2, len, lowLag, qsp16s, alg));
+        for (QspCorrNorm norm : kNorms) {
+            std::vector<Qsp16s> self(len), other(len);
+            ASSERT_EQ(qspsCrossCorrNorm_16s_Sfs(b.data(), b.data(), self.data(), n2, n2, len, lowLag, alg, norm, sb.p, -3),
+                      qspStsOk);
+            ASSERT_EQ(qspsCrossCorrNorm_16s_Sfs(b.data(), copy.data(), other.data(), n2, n2, len, lowLag, alg, norm,
+                                                sb.p, -3),
+                      qspStsOk);
+            for (int k = 0; k < len; ++k) ASSERT_EQ(self[k], other[k]) << norm << " " << k;
+        }
+    }
 }
 
 }  // namespace
