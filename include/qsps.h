@@ -2020,11 +2020,14 @@ QspStatus qspsConvolve_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32f* 
  * A window of the full convolution, starting at index bias:
  *   pDst[n] = sum over k of pSrc1[k] * pSrc2[n+bias-k],  0 <= n < dstLen,
  * the sum over the k inside both operands (zero where there is none, for
- * instance n+bias < 0 or >= src1Len+src2Len-1; any bias is accepted). Direct
- * evaluation, no work buffer. 16s_Sfs forms the exact integer sums and
- * applies the scale-factor rule (2^-scaleFactor, nearest even, saturation).
+ * instance n+bias < 0 or >= src1Len+src2Len-1; any bias is accepted): for
+ * 0 <= bias <= src1Len+src2Len-1-dstLen this is
+ * numpy.convolve(a, b, "full")[bias : bias+dstLen]. Direct evaluation, no
+ * work buffer. 16s_Sfs forms the exact integer sums and applies the
+ * scale-factor rule (2^-scaleFactor, nearest even, saturation).
  * Checks: null pSrc1, pSrc2 or pDst qspStsNullPtr; src1Len, src2Len or dstLen
- * below 1 qspStsBadSize. pDst must not overlap the operands.
+ * below 1 qspStsBadSize. The operands may be the same array; pDst must not
+ * overlap them. Nothing is written on error.
  */
 QspStatus qspsConvBiased_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int src1Len, int src2Len, int dstLen, int bias);
 QspStatus qspsConvBiased_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int src1Len, int src2Len, int dstLen, int bias, int scaleFactor);
