@@ -56,28 +56,23 @@ void setRate(benchmark::State& state, long long n1, long long n2)
 
 // ------------------------------------------------------------ ours
 
+// The library's convolution of each type and the type code of its buffer
+// size query.
+template <QspDataType Code, auto Call>
+struct OursOf {
+    static constexpr QspDataType type = Code;
+    static constexpr auto call = Call;
+};
 template <class T>
 struct Ours;
 template <>
-struct Ours<float> {
-    static constexpr QspDataType type = qsp32f;
-    static constexpr auto call = qspsConvolve_32f;
-};
+struct Ours<float> : OursOf<qsp32f, qspsConvolve_32f> {};
 template <>
-struct Ours<double> {
-    static constexpr QspDataType type = qsp64f;
-    static constexpr auto call = qspsConvolve_64f;
-};
+struct Ours<double> : OursOf<qsp64f, qspsConvolve_64f> {};
 template <>
-struct Ours<Qsp32fc> {
-    static constexpr QspDataType type = qsp32fc;
-    static constexpr auto call = qspsConvolve_32fc;
-};
+struct Ours<Qsp32fc> : OursOf<qsp32fc, qspsConvolve_32fc> {};
 template <>
-struct Ours<Qsp64fc> {
-    static constexpr QspDataType type = qsp64fc;
-    static constexpr auto call = qspsConvolve_64fc;
-};
+struct Ours<Qsp64fc> : OursOf<qsp64fc, qspsConvolve_64fc> {};
 
 template <class T>
 void ours(benchmark::State& state, QspAlgType alg)
