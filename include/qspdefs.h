@@ -270,7 +270,8 @@ typedef int QspCorrNorm;
 enum {
     qspNormNone     = 0,  /* the plain sums */
     qspNormBiased   = 1,  /* divided by the source length */
-    qspNormUnbiased = 2   /* divided by the number of products at each lag */
+    qspNormUnbiased = 2,  /* divided by the number of products at each lag */
+    qspNormUnitEnergy = 3 /* divided by the square root of the product of the energies */
 };
 
 /* ------------------------------------------------------------------------

@@ -1931,6 +1931,93 @@ QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
 QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
 QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
+/* FIRSR ------------------------------------------------------------------- */
+/*
+ * Single-rate FIR filter, one output per input:
+ *   y[n] = sum over k = 0..N-1 of taps[k] * x[n-k],   N = tapsLen,
+ * with x[n] = pSrc[n] for n >= 0 and x[-j] = pDlySrc[N-1-j] for j = 1..N-1
+ * (zeros when pDlySrc is null). Complex taps multiply as complex numbers;
+ * 32f_32fc multiplies complex samples by real taps.
+ *
+ * Sizing. FIRSRGetSize(tapsLen, tapsType, &specSize, &bufSize) with tapsType
+ * qsp32f, qsp64f, qsp32fc or qsp64fc (FIRSRGetSize32f_32fc for real taps on
+ * complex data) gives the bytes of the record and of the work buffer; both
+ * need no alignment. For an element of e bytes (4 for 32f; 8 for 64f, 32fc
+ * and 32f_32fc; 16 for 64fc), A(x) = x rounded up to a multiple of 64 and the
+ * FFT of order k+1 (fftLen = 2^(k+1), 2^k the smallest power of two above N,
+ * k >= 1; real FFT for real data, complex FFT for complex data, flag 2):
+ *   spec = max(A(e*N), A(4*e*N), 4*e*((N+6) & ~3)) + 191 + FFT spec size
+ *          + max(FFT init size, FFT work size) + e*fftLen
+ *   buf  = 64*(ceil(2*e*N/64) + ceil(2*e*(N-1)/64)) + 32768 + FFT work size
+ *          + e*fftLen
+ * The FFT part is counted whatever algorithm the record will use. Checks:
+ * tapsLen < 1 qspStsBadSize, then another tapsType qspStsBadDataType, then a
+ * null size pointer qspStsNullPtr. Sizes beyond int give qspStsOverflow.
+ *
+ * Init. FIRSRInit_<type>(pTaps, tapsLen, algType, pSpec) builds the record in
+ * the caller's block, at its first 64-byte boundary; the filter calls take
+ * the same unaligned pointer. The record keeps the taps for the direct form
+ * and, unless algType is qspAlgDirect, their spectrum for overlap-save
+ * (fftLen above). Checks: tapsLen < 1 qspStsBadSize, null pTaps or pSpec
+ * qspStsNullPtr, algType other than qspAlgAuto (0), qspAlgDirect (1),
+ * qspAlgFFT (2) qspStsBadAlgType. The record carries no identifier and is
+ * not checked; it is read-only afterwards, so threads may share one record
+ * as long as each call has its own pBuf, destination and delay lines.
+ *
+ * Filtering. FIRSR_<type>(pSrc, pDst, numIters, pSpec, pDlySrc, pDlyDst,
+ * pBuf) filters numIters samples. Method: qspAlgFFT records always use
+ * overlap-save (FFT of fftLen, step fftLen - (N-1)); qspAlgDirect records the
+ * direct form; qspAlgAuto records overlap-save when N >= T_taps and numIters
+ * >= T_len, else the direct form:
+ *   32f 64/128, 64f 38/128, 32f_32fc 64/256, 32fc 18/256, 64fc 18/256.
+ * The direct form sums from the first tap to the last, each output by itself,
+ * so a stream filtered in pieces gives the same bits as in one call;
+ * overlap-save agrees with it to rounding (an error of a few units of the
+ * precision times log2(fftLen) times the norms of taps and block).
+ * 16s and 16sc use a 32f or 32fc record, always filter by the direct form in
+ * single precision and round the results to nearest (ties to even) with
+ * saturation; their delay lines are 16-bit.
+ * Delay lines hold N-1 samples of the call's data type, oldest first: before
+ * the call pDlySrc[N-2] is the sample just before pSrc[0]. After it pDlyDst
+ * (if not null) holds the last N-1 samples of delay line followed by input:
+ * pSrc[numIters-N+1 .. numIters-1] when numIters >= N-1, else the newest
+ * N-1-numIters samples of pDlySrc (zeros if null) and then all of pSrc. With
+ * N = 1 no delay line is read or written.
+ * Aliasing: pSrc == pDst (in place), pDst == pDlySrc and pDlySrc == pDlyDst
+ * (continuing a stream) are allowed and give the results of separate arrays
+ * (overlap-save to rounding: in place it runs in staging blocks of 32768
+ * bytes of samples); other overlaps are not. pBuf holds nothing between
+ * calls.
+ * Checks: null pSpec, then null pSrc, pDst or pBuf qspStsNullPtr; numIters < 1
+ * qspStsBadSize. Nothing is written on error.
+ *
+ * Example, a 64-tap filter over a stream of blocks, dly carrying the history:
+ *   int specSize, bufSize;
+ *   qspsFIRSRGetSize(64, qsp32f, &specSize, &bufSize);
+ *   QspsFIRSpec_32f* spec = (QspsFIRSpec_32f*)qspsMalloc_8u(specSize);
+ *   Qsp8u* buf = qspsMalloc_8u(bufSize);
+ *   Qsp32f dly[63] = {0};
+ *   qspsFIRSRInit_32f(taps, 64, qspAlgAuto, spec);
+ *   while (readBlock(in, 1024))
+ *       qspsFIRSR_32f(in, out, 1024, spec, dly, dly, buf);
+ *   qspsFree(buf);
+ *   qspsFree(spec);
+ */
+QspStatus qspsFIRSRGetSize(int tapsLen, QspDataType tapsType, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRSRGetSize32f_32fc(int tapsLen, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRSRInit_32f(const Qsp32f* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_32f* pSpec);
+QspStatus qspsFIRSRInit_64f(const Qsp64f* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_64f* pSpec);
+QspStatus qspsFIRSRInit_32fc(const Qsp32fc* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_32fc* pSpec);
+QspStatus qspsFIRSRInit_64fc(const Qsp64fc* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_64fc* pSpec);
+QspStatus qspsFIRSRInit32f_32fc(const Qsp32f* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec32f_32fc* pSpec);
+QspStatus qspsFIRSR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int numIters, QspsFIRSpec_32f* pSpec, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int numIters, QspsFIRSpec_64f* pSpec, const Qsp64f* pDlySrc, Qsp64f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRSpec_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int numIters, QspsFIRSpec_64fc* pSpec, const Qsp64fc* pDlySrc, Qsp64fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR32f_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRSpec32f_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_16s(const Qsp16s* pSrc, Qsp16s* pDst, int numIters, QspsFIRSpec_32f* pSpec, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int numIters, QspsFIRSpec_32fc* pSpec, const Qsp16sc* pDlySrc, Qsp16sc* pDlyDst, Qsp8u* pBuf);
+
 /* WinBartlett ------------------------------------------------------------- */
 /*
  * Bartlett (triangle) window: pDst[n] = pSrc[n] w(n), w(n) = 2n/(N-1) for
@@ -2371,6 +2458,124 @@ QspStatus qspsVectorSlope_32s(Qsp32s* pDst, int len, Qsp64f offset, Qsp64f slope
 QspStatus qspsVectorSlope_64s(Qsp64s* pDst, int len, Qsp64f offset, Qsp64f slope);
 QspStatus qspsVectorSlope_32f(Qsp32f* pDst, int len, Qsp64f offset, Qsp64f slope);
 QspStatus qspsVectorSlope_64f(Qsp64f* pDst, int len, Qsp64f offset, Qsp64f slope);
+
+/* Convolve ---------------------------------------------------------------- */
+/*
+ * Full linear convolution (numpy.convolve(a, b, "full")):
+ *   pDst[n] = sum over k of pSrc1[k] * pSrc2[n-k],  0 <= n < src1Len+src2Len-1,
+ * the sum over the k inside both operands. Complex operands multiply as
+ * complex numbers. The operands may be the same array; pDst must not
+ * overlap them.
+ * algType: qspAlgDirect sums directly (the shorter operand as taps, the
+ * register-blocked FIR kernel; each value is a left-to-right sum of rounded
+ * products); qspAlgFFT by overlap-save FFTs whose length (at least twice
+ * the shorter operand, up to one block of the whole result) is chosen per
+ * call for the least work; qspAlgAuto takes whichever the library's cost
+ * model, fitted to measurements, says is faster for the lengths. Floating
+ * results agree with the exact sum to a few units of the precision times the
+ * length (direct) or times log2 of the length and the norms of the
+ * operands (FFT).
+ * 16s32f and 16s_Sfs are exact: the integer sums are formed exactly (in
+ * double precision, direct or by FFT with the operands split into 8-bit
+ * halves when their size could bring the rounding near one half), then
+ * 16s32f rounds each sum once to single precision and 16s_Sfs multiplies it
+ * by 2^-scaleFactor, rounds to nearest even and saturates; a scale factor at
+ * which every sum rounds to 0 writes zeros without computing.
+ * ConvolveGetBufferSize(src1Len, src2Len, dataType, algType, &size) gives
+ * the bytes of pBuffer (any alignment) for the lengths, the type (qsp32f,
+ * qsp64f, qsp32fc, qsp64fc, or qsp16s for both 16-bit forms) and the
+ * algorithm; pBuffer must not be null and holds nothing between calls, so
+ * threads need one each. Checks of the size query: null pBufferSize
+ * qspStsNullPtr, a length below 1 qspStsBadSize, another type
+ * qspStsBadDataType, algType other than 0, 1, 2 qspStsBadAlgType, a size
+ * beyond int qspStsOverflow. Checks of the convolution: null pointer (pSrc1,
+ * pSrc2, pDst, pBuffer) qspStsNullPtr, a length below 1 qspStsBadSize, then
+ * qspStsBadAlgType. Nothing is written on error.
+ */
+QspStatus qspsConvolveGetBufferSize(int src1Len, int src2Len, QspDataType dataType, QspAlgType algType, int* pBufferSize);
+QspStatus qspsConvolve_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int src1Len, int src2Len, QspAlgType algType, Qsp8u* pBuffer, int scaleFactor);
+QspStatus qspsConvolve_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int src1Len, int src2Len, QspAlgType algType, Qsp8u* pBuffer);
+QspStatus qspsConvolve_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int src1Len, int src2Len, QspAlgType algType, Qsp8u* pBuffer);
+QspStatus qspsConvolve_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int src1Len, int src2Len, QspAlgType algType, Qsp8u* pBuffer);
+QspStatus qspsConvolve_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int src1Len, int src2Len, QspAlgType algType, Qsp8u* pBuffer);
+QspStatus qspsConvolve_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32f* pDst, int src1Len, int src2Len, QspAlgType algType, Qsp8u* pBuffer);
+
+/* ConvBiased -------------------------------------------------------------- */
+/*
+ * A window of the full convolution, starting at index bias:
+ *   pDst[n] = sum over k of pSrc1[k] * pSrc2[n+bias-k],  0 <= n < dstLen,
+ * the sum over the k inside both operands (zero where there is none, for
+ * instance n+bias < 0 or >= src1Len+src2Len-1; any bias is accepted): for
+ * 0 <= bias <= src1Len+src2Len-1-dstLen this is
+ * numpy.convolve(a, b, "full")[bias : bias+dstLen]. Direct evaluation, no
+ * work buffer. 16s_Sfs forms the exact integer sums and applies the
+ * scale-factor rule (2^-scaleFactor, nearest even, saturation).
+ * Checks: null pSrc1, pSrc2 or pDst qspStsNullPtr; src1Len, src2Len or dstLen
+ * below 1 qspStsBadSize. The operands may be the same array; pDst must not
+ * overlap them. Nothing is written on error.
+ */
+QspStatus qspsConvBiased_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int src1Len, int src2Len, int dstLen, int bias);
+QspStatus qspsConvBiased_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int src1Len, int src2Len, int dstLen, int bias, int scaleFactor);
+
+/* AutoCorrNorm ------------------------------------------------------------ */
+/*
+ * Autocorrelation for lags 0 .. dstLen-1:
+ *   pDst[k] = r[k] / norm(k),  r[k] = sum over n of pSrc[n+k] * conj(pSrc[n])
+ * (the sum over 0 <= n < srcLen-k; zero for k >= srcLen), which is
+ * numpy.correlate(x, x, "full")[srcLen-1+k]. It is CrossCorrNorm of the
+ * vector with itself from lowLag 0, with the same checks, methods and
+ * buffer: normType qspNormNone (norm 1), qspNormBiased (srcLen),
+ * qspNormUnbiased (srcLen-k), qspNormUnitEnergy (the energy sum |x|^2, so
+ * lag 0 gives 1 to rounding); algType and the buffer
+ * (AutoCorrNormGetBufferSize) as for CrossCorrNorm.
+ */
+QspStatus qspsAutoCorrNormGetBufferSize(int srcLen, int dstLen, QspDataType dataType, QspAlgType algType, int* pBufferSize);
+QspStatus qspsAutoCorrNorm_32f(const Qsp32f* pSrc, Qsp32f* pDst, int srcLen, int dstLen, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsAutoCorrNorm_64f(const Qsp64f* pSrc, Qsp64f* pDst, int srcLen, int dstLen, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsAutoCorrNorm_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int srcLen, int dstLen, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsAutoCorrNorm_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int srcLen, int dstLen, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsAutoCorrNorm_16s32f(const Qsp16s* pSrc, Qsp32f* pDst, int srcLen, int dstLen, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsAutoCorrNorm_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int srcLen, int dstLen, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer, int scaleFactor);
+
+/* CrossCorrNorm ----------------------------------------------------------- */
+/*
+ * Cross-correlation for the lags lowLag .. lowLag+dstLen-1:
+ *   pDst[k] = r[lowLag+k] / norm(lowLag+k),
+ *   r[lag] = sum over n of pSrc2[n+lag] * conj(pSrc1[n]),
+ * the sum over the n with both indices inside their operands (zero where
+ * there is none). With lowLag = -(src1Len-1) and dstLen = src1Len+src2Len-1
+ * this is numpy.correlate(pSrc2, pSrc1, "full"); lag 0 pairs the first
+ * samples. normType: qspNormNone (norm 1), qspNormBiased (the longer length,
+ * max(src1Len, src2Len)), qspNormUnbiased (the number of products at the lag;
+ * 0 where there is none), qspNormUnitEnergy (sqrt(E1*E2), E the sum of |x|^2
+ * of each operand; 0 when either is 0); any other value gives
+ * qspStsBadArgument. Floating results are divided in double precision.
+ * algType as for Convolve (direct, FFT, or the cheaper for the lengths);
+ * values outside the lags with products cost nothing.
+ * 16-bit forms use the exact integer sums: 16s32f writes them rounded once to
+ * single precision (normalised ones as the double-precision quotient rounded
+ * to single); 16s_Sfs applies the scale-factor rule to the plain sum (zeros
+ * without computing when every result rounds to 0), to the exact quotient
+ * sum/(norm*2^scaleFactor) for qspNormBiased and qspNormUnbiased, and to
+ * the double-precision quotient for qspNormUnitEnergy.
+ * CrossCorrNormGetBufferSize(src1Len, src2Len, dstLen, lowLag, dataType,
+ * algType, &size) sizes pBuffer (any alignment, not null, nothing kept
+ * between calls; one per thread) for every normType; dataType qsp32f,
+ * qsp64f, qsp32fc, qsp64fc, or qsp16s for both 16-bit forms. Checks of the
+ * size query: null pBufferSize, lengths below 1, dataType, algType, size
+ * beyond int (qspStsOverflow), in that order. Checks of the correlation:
+ * null pointer (pSrc1, pSrc2, pDst, pBuffer) qspStsNullPtr, src1Len, src2Len
+ * or dstLen below 1 qspStsBadSize, algType qspStsBadAlgType, normType
+ * qspStsBadArgument. The operands may be the same array; pDst must not
+ * overlap them. Nothing is written on error.
+ */
+QspStatus qspsCrossCorrNormGetBufferSize(int src1Len, int src2Len, int dstLen, int lowLag, QspDataType dataType, QspAlgType algType, int* pBufferSize);
+QspStatus qspsCrossCorrNorm_32f(const Qsp32f* pSrc1, const Qsp32f* pSrc2, Qsp32f* pDst, int src1Len, int src2Len, int dstLen, int lowLag, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsCrossCorrNorm_64f(const Qsp64f* pSrc1, const Qsp64f* pSrc2, Qsp64f* pDst, int src1Len, int src2Len, int dstLen, int lowLag, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsCrossCorrNorm_32fc(const Qsp32fc* pSrc1, const Qsp32fc* pSrc2, Qsp32fc* pDst, int src1Len, int src2Len, int dstLen, int lowLag, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsCrossCorrNorm_64fc(const Qsp64fc* pSrc1, const Qsp64fc* pSrc2, Qsp64fc* pDst, int src1Len, int src2Len, int dstLen, int lowLag, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsCrossCorrNorm_16s32f(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp32f* pDst, int src1Len, int src2Len, int dstLen, int lowLag, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer);
+QspStatus qspsCrossCorrNorm_16s_Sfs(const Qsp16s* pSrc1, const Qsp16s* pSrc2, Qsp16s* pDst, int src1Len, int src2Len, int dstLen, int lowLag, QspAlgType algType, QspCorrNorm normType, Qsp8u* pBuffer, int scaleFactor);
 
 #ifdef __cplusplus
 }

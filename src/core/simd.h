@@ -38,6 +38,17 @@ inline void storeOne(T* p, const T& x)
     __builtin_memcpy(p, &x, sizeof(T));
 }
 
+// p, with its value hidden from the optimizer: a loop that steps a pointer
+// through it is not analysed for loads that a later iteration could take
+// over from an earlier one (predictive commoning), which in register-
+// blocked kernels costs more registers than it saves loads.
+template <class T>
+inline T* opaque(T* p)
+{
+    __asm__("" : "+r"(p));
+    return p;
+}
+
 // Asks for the cache line holding p ahead of its use. Only a hint: it never
 // faults, whatever the address.
 inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
