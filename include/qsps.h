@@ -1887,6 +1887,58 @@ QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
 QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
 QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
+/* SampleUp ---------------------------------------------------------------- */
+/*
+ * Upsampling by an integer factor: every source element becomes a group of
+ * factor destination elements, the source element at position *pPhase of the
+ * group and zeros at the others:
+ *     pDst[i*factor + j] = (j == *pPhase) ? pSrc[i] : 0,  0 <= i < len, 0 <= j < factor.
+ * *pDstLen receives factor*len. *pPhase is read and left as it is: every block
+ * of a stream uses the same phase, so consecutive calls give the same result
+ * as one call on the joined source. factor 1 copies.
+ * Checks: a null pointer gives qspStsNullPtr, len < 1 qspStsBadSize, factor < 1
+ * qspStsBadFactor, *pPhase outside [0, factor) qspStsBadPhase, and factor*len
+ * above 2^31-1 qspStsOverflow; nothing is written then.
+ * pDst holds factor*len elements; it may start at pSrc (the groups are written
+ * from the last to the first), no other overlap. Thread-safe.
+ *     int n, phase = 0;
+ *     qspsSampleUp_32f(x, y, 100, &n, 4, &phase);   // n = 400
+ */
+QspStatus qspsSampleUp_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32sc(const Qsp32sc* pSrc, Qsp32sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+
+/* SampleDown -------------------------------------------------------------- */
+/*
+ * Downsampling by an integer factor: the source elements at positions *pPhase,
+ * *pPhase + factor, *pPhase + 2*factor, ... below len are kept:
+ *     pDst[k] = pSrc[*pPhase + k*factor],  0 <= k < *pDstLen,
+ * *pDstLen = (len - *pPhase + factor - 1) / factor (0 when *pPhase >= len).
+ * *pPhase then receives the position in the next block at which the stream
+ * continues, *pPhase + *pDstLen*factor - len (in [0, factor)), so consecutive
+ * calls give the same elements as one call on the joined source. factor 1
+ * copies.
+ * Checks: a null pointer gives qspStsNullPtr, len < 1 qspStsBadSize, factor < 1
+ * qspStsBadFactor, *pPhase outside [0, factor) qspStsBadPhase; nothing is
+ * written then. pDst holds (len + factor - 1) / factor elements; it may be
+ * pSrc itself (in place), no other overlap. Thread-safe.
+ *     int n, phase = 1;
+ *     qspsSampleDown_32f(x, y, 10, &n, 4, &phase);   // y: x[1] x[5] x[9]; n 3, phase 3
+ */
+QspStatus qspsSampleDown_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32sc(const Qsp32sc* pSrc, Qsp32sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+
 #ifdef __cplusplus
 }
 #endif
