@@ -1887,6 +1887,52 @@ QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
 QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
 QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
+/* FilterMedian ------------------------------------------------------------ */
+/*
+ * Running median of the last maskSize inputs (maskSize odd):
+ *     pDst[i] = median of x[i - maskSize + 1], ..., x[i],
+ * where x[i] = pSrc[i] and the maskSize - 1 values before pSrc[0] come from
+ * the delay line: x[-j] = pDlySrc[maskSize - 1 - j] for j = 1 .. maskSize - 1
+ * (pDlySrc[0] the oldest). A null pDlySrc stands for pSrc[0] repeated, so
+ * the signal is extended to the left by its first value. The filter is
+ * causal: the median of a window is centred maskSize/2 samples before the
+ * output, which is the latency. pDlyDst, when not null, receives the last
+ * maskSize - 1 values of the delay line followed by the source, oldest
+ * first; pDlySrc == pDlyDst continues a stream, so consecutive calls give the
+ * result of one call on the joined source. maskSize 1 copies and uses no
+ * delay line.
+ * Order: values are compared as numbers; 32f values in the total order of
+ * their bit patterns, -NaN < -Inf < ... < -0 < +0 < ... < +Inf < +NaN, so
+ * every output is one of the inputs, bit for bit.
+ * The work buffer pBuffer (any alignment) has the size that
+ * FilterMedianGetBufferSize reports for the mask and the data type (qsp8u,
+ * qsp16s, qsp32s or qsp32f; another code gives qspStsBadDataType, a buffer
+ * above 2^31-1 bytes qspStsOverflow); nothing in it survives a call.
+ * Cost per output: masks up to 767 (8u), 383 (16s) or 191 (32s, 32f) keep a
+ * sorted window, maskSize/16, /8 or /4 register operations; longer masks a
+ * double heap, O(log maskSize).
+ * Checks: a null pSrc, pDst or pBuffer gives qspStsNullPtr; len < 1
+ * qspStsBadSize; an even or non-positive maskSize qspStsBadMaskSize; nothing
+ * is written then. _I filters in place; otherwise pDst must not overlap
+ * pSrc, and the delay lines must not overlap the data. Thread-safe with a
+ * work buffer per call.
+ *     int size;
+ *     qspsFilterMedianGetBufferSize(31, qsp32f, &size);
+ *     Qsp8u* buf = qspsMalloc_8u(size);
+ *     Qsp32f dly[30] = {0};
+ *     qspsFilterMedian_32f(x, y, n, 31, dly, dly, buf);        // first block
+ *     qspsFilterMedian_32f(x + n, y + n, n, 31, dly, dly, buf); // continues
+ */
+QspStatus qspsFilterMedianGetBufferSize(int maskSize, QspDataType dataType, int* pBufferSize);
+QspStatus qspsFilterMedian_8u(const Qsp8u* pSrc, Qsp8u* pDst, int len, int maskSize, const Qsp8u* pDlySrc, Qsp8u* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_8u_I(Qsp8u* pSrcDst, int len, int maskSize, const Qsp8u* pDlySrc, Qsp8u* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, int maskSize, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_16s_I(Qsp16s* pSrcDst, int len, int maskSize, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, int maskSize, const Qsp32s* pDlySrc, Qsp32s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32s_I(Qsp32s* pSrcDst, int len, int maskSize, const Qsp32s* pDlySrc, Qsp32s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int maskSize, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32f_I(Qsp32f* pSrcDst, int len, int maskSize, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuffer);
+
 /* SampleUp ---------------------------------------------------------------- */
 /*
  * Upsampling by an integer factor: every source element becomes a group of

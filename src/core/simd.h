@@ -367,6 +367,11 @@ struct Vec<Qsp8s> : IntRegOps {
     static constexpr int lanes = 16;
     static Reg splat(Qsp8s x) { return _mm_set1_epi8(x); }
     static Reg reverse(Reg r) { return Vec<Qsp8u>::reverse(r); }
+    // Signed comparisons and selections of 8-bit lanes.
+    static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi8(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi8(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi8(a, b); }
+    static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }
 };
 
 // Four registers of 32-bit lanes to one register of 16 saturated 8u lanes.
