@@ -1887,6 +1887,91 @@ QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
 QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
 QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
+/* FIRSR ------------------------------------------------------------------- */
+/*
+ * Single-rate FIR filter, one output per input:
+ *   y[n] = sum over k = 0..N-1 of taps[k] * x[n-k],   N = tapsLen,
+ * with x[n] = pSrc[n] for n >= 0 and x[-j] = pDlySrc[N-1-j] for j = 1..N-1
+ * (zeros when pDlySrc is null). Complex taps multiply as complex numbers;
+ * 32f_32fc multiplies complex samples by real taps.
+ *
+ * Sizing. FIRSRGetSize(tapsLen, tapsType, &specSize, &bufSize) with tapsType
+ * qsp32f, qsp64f, qsp32fc or qsp64fc (FIRSRGetSize32f_32fc for real taps on
+ * complex data) gives the bytes of the record and of the work buffer; both
+ * need no alignment. For an element of e bytes (4 for 32f; 8 for 64f, 32fc
+ * and 32f_32fc; 16 for 64fc), A(x) = x rounded up to a multiple of 64 and the
+ * FFT of order k+1 (fftLen = 2^(k+1), 2^k the smallest power of two above N,
+ * k >= 1; real FFT for real data, complex FFT for complex data, flag 2):
+ *   spec = max(A(e*N), A(4*e*N), 4*e*((N+6) & ~3)) + 191 + FFT spec size
+ *          + max(FFT init size, FFT work size) + e*fftLen
+ *   buf  = 64*(ceil(2*e*N/64) + ceil(2*e*(N-1)/64)) + 32768 + FFT work size
+ *          + e*fftLen
+ * The FFT part is counted whatever algorithm the record will use. Checks:
+ * tapsLen < 1 qspStsBadSize, then another tapsType qspStsBadDataType, then a
+ * null size pointer qspStsNullPtr. Sizes beyond int give qspStsOverflow.
+ *
+ * Init. FIRSRInit_<type>(pTaps, tapsLen, algType, pSpec) builds the record in
+ * the caller's block, at its first 64-byte boundary; the filter calls take
+ * the same unaligned pointer. The record keeps the taps for the direct form
+ * and, unless algType is qspAlgDirect, their spectrum for overlap-save
+ * (fftLen above). Checks: tapsLen < 1 qspStsBadSize, null pTaps or pSpec
+ * qspStsNullPtr, algType other than qspAlgAuto (0), qspAlgDirect (1),
+ * qspAlgFFT (2) qspStsBadAlgType. The record carries no identifier and is
+ * not checked; it is read-only afterwards, so threads may share one record
+ * as long as each call has its own pBuf, destination and delay lines.
+ *
+ * Filtering. FIRSR_<type>(pSrc, pDst, numIters, pSpec, pDlySrc, pDlyDst,
+ * pBuf) filters numIters samples. Method: qspAlgFFT records always use
+ * overlap-save (FFT of fftLen, step fftLen - (N-1)); qspAlgDirect records the
+ * direct form; qspAlgAuto records overlap-save when N >= T_taps and numIters
+ * >= T_len, else the direct form:
+ *   32f 64/128, 64f 38/128, 32f_32fc 64/256, 32fc 18/256, 64fc 18/256.
+ * The direct form sums from the first tap to the last, each output by itself,
+ * so a stream filtered in pieces gives the same bits as in one call;
+ * overlap-save agrees with it to rounding (an error of a few units of the
+ * precision times log2(fftLen) times the norms of taps and block).
+ * 16s and 16sc use a 32f or 32fc record, always filter by the direct form in
+ * single precision and round the results to nearest (ties to even) with
+ * saturation; their delay lines are 16-bit.
+ * Delay lines hold N-1 samples of the call's data type, oldest first: before
+ * the call pDlySrc[N-2] is the sample just before pSrc[0]. After it pDlyDst
+ * (if not null) holds the last N-1 samples of delay line followed by input:
+ * pSrc[numIters-N+1 .. numIters-1] when numIters >= N-1, else the newest
+ * N-1-numIters samples of pDlySrc (zeros if null) and then all of pSrc. With
+ * N = 1 no delay line is read or written.
+ * Aliasing: pSrc == pDst (in place), pDst == pDlySrc and pDlySrc == pDlyDst
+ * (continuing a stream) are allowed and give the results of separate arrays;
+ * other overlaps are not. pBuf holds nothing between calls.
+ * Checks: null pSpec, then null pSrc, pDst or pBuf qspStsNullPtr; numIters < 1
+ * qspStsBadSize. Nothing is written on error.
+ *
+ * Example, a 64-tap filter over a stream of blocks, dly carrying the history:
+ *   int specSize, bufSize;
+ *   qspsFIRSRGetSize(64, qsp32f, &specSize, &bufSize);
+ *   QspsFIRSpec_32f* spec = (QspsFIRSpec_32f*)qspsMalloc_8u(specSize);
+ *   Qsp8u* buf = qspsMalloc_8u(bufSize);
+ *   Qsp32f dly[63] = {0};
+ *   qspsFIRSRInit_32f(taps, 64, qspAlgAuto, spec);
+ *   while (readBlock(in, 1024))
+ *       qspsFIRSR_32f(in, out, 1024, spec, dly, dly, buf);
+ *   qspsFree(buf);
+ *   qspsFree(spec);
+ */
+QspStatus qspsFIRSRGetSize(int tapsLen, QspDataType tapsType, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRSRGetSize32f_32fc(int tapsLen, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRSRInit_32f(const Qsp32f* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_32f* pSpec);
+QspStatus qspsFIRSRInit_64f(const Qsp64f* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_64f* pSpec);
+QspStatus qspsFIRSRInit_32fc(const Qsp32fc* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_32fc* pSpec);
+QspStatus qspsFIRSRInit_64fc(const Qsp64fc* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec_64fc* pSpec);
+QspStatus qspsFIRSRInit32f_32fc(const Qsp32f* pTaps, int tapsLen, QspAlgType algType, QspsFIRSpec32f_32fc* pSpec);
+QspStatus qspsFIRSR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int numIters, QspsFIRSpec_32f* pSpec, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int numIters, QspsFIRSpec_64f* pSpec, const Qsp64f* pDlySrc, Qsp64f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRSpec_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int numIters, QspsFIRSpec_64fc* pSpec, const Qsp64fc* pDlySrc, Qsp64fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR32f_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRSpec32f_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_16s(const Qsp16s* pSrc, Qsp16s* pDst, int numIters, QspsFIRSpec_32f* pSpec, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRSR_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int numIters, QspsFIRSpec_32fc* pSpec, const Qsp16sc* pDlySrc, Qsp16sc* pDlyDst, Qsp8u* pBuf);
+
 /* FilterMedian ------------------------------------------------------------ */
 /*
  * Running median of the last maskSize inputs (maskSize odd):
