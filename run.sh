@@ -12,7 +12,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 BUILD_PACKAGES="g++ cmake ninja-build python3 pkg-config"
-TEST_PACKAGES="libgtest-dev"
+TEST_PACKAGES="libgtest-dev libmpfr-dev"
 BENCH_PACKAGES="libbenchmark-dev libfftw3-dev libvolk2-dev libliquid-dev libsleef-dev libsamplerate0-dev libsoxr-dev"
 JOBS=$(nproc 2>/dev/null || echo 2)
 

@@ -1972,6 +1972,242 @@ QspStatus qspsFIRSR32f_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, Qs
 QspStatus qspsFIRSR_16s(const Qsp16s* pSrc, Qsp16s* pDst, int numIters, QspsFIRSpec_32f* pSpec, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuf);
 QspStatus qspsFIRSR_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int numIters, QspsFIRSpec_32fc* pSpec, const Qsp16sc* pDlySrc, Qsp16sc* pDlyDst, Qsp8u* pBuf);
 
+/* WinBartlett ------------------------------------------------------------- */
+/*
+ * Bartlett (triangle) window: pDst[n] = pSrc[n] w(n), w(n) = 2n/(N-1) for
+ * n up to the centre, N = len >= 3. The slope 2/(N-1) is formed once and
+ * each weight is n times it (within 2^-52). N = 3 sets both end elements
+ * to 0, whatever they hold, and keeps the middle one.
+ * Every window is symmetric, w(n) = w(N-1-n), N = len; each weight serves
+ * element n and element N-1-n, and the centre element of an odd length
+ * has weight 1: it is copied unchanged (in place: left alone). Complex
+ * elements: both parts times the same real weight. 64f/64fc multiply in
+ * double, 32f/32fc by the weight rounded to single precision, 16s/16sc
+ * form x w in double and round to nearest with ties to even, saturating.
+ * _I forms work in place; otherwise pSrc and pDst are one vector or do not
+ * overlap. Checks: pSrc, then pDst null (qspStsNullPtr), then len below
+ * the shortest (qspStsBadSize); nothing is written on error. Reentrant.
+ */
+QspStatus qspsWinBartlett_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsWinBartlett_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsWinBartlett_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsWinBartlett_16sc_I(Qsp16sc* pSrcDst, int len);
+QspStatus qspsWinBartlett_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsWinBartlett_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsWinBartlett_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsWinBartlett_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsWinBartlett_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsWinBartlett_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsWinBartlett_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsWinBartlett_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* WinHann ----------------------------------------------------------------- */
+/*
+ * Hann window: pDst[n] = pSrc[n] w(n), w(n) = 0.5 - 0.5 cos(2 pi n/(N-1)),
+ * N = len >= 3 (N = 3: weights 0, 1, 0).
+ * The weights come from the recurrence cos(k+1)x = 2 cos x cos kx -
+ * cos(k-1)x seeded with cos t and cos 2t, t = 2 pi/(N-1) formed as
+ * 6.283185307179586 * (1/(N-1)): two cosines per call. Weight error
+ * against the formula: within 2^-51 + N^2 2^-59 (the recurrence's drift
+ * grows with N^2: 2.4e-7 at N = 10^6).
+ * Every window is symmetric, w(n) = w(N-1-n), N = len; each weight serves
+ * element n and element N-1-n, and the centre element of an odd length
+ * has weight 1: it is copied unchanged (in place: left alone). Complex
+ * elements: both parts times the same real weight. 64f/64fc multiply in
+ * double, 32f/32fc by the weight rounded to single precision, 16s/16sc
+ * form x w in double and round to nearest with ties to even, saturating.
+ * _I forms work in place; otherwise pSrc and pDst are one vector or do not
+ * overlap. Checks: pSrc, then pDst null (qspStsNullPtr), then len below
+ * the shortest (qspStsBadSize); nothing is written on error. Reentrant.
+ */
+QspStatus qspsWinHann_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsWinHann_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsWinHann_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsWinHann_16sc_I(Qsp16sc* pSrcDst, int len);
+QspStatus qspsWinHann_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsWinHann_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsWinHann_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsWinHann_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsWinHann_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsWinHann_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsWinHann_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsWinHann_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* WinHamming -------------------------------------------------------------- */
+/*
+ * Hamming window: pDst[n] = pSrc[n] w(n), w(n) = 0.54 - 0.46
+ * cos(2 pi n/(N-1)), N = len >= 3.
+ * The weights come from the recurrence cos(k+1)x = 2 cos x cos kx -
+ * cos(k-1)x seeded with cos t and cos 2t, t = 2 pi/(N-1) formed as
+ * 6.283185307179586 * (1/(N-1)): two cosines per call. Weight error
+ * against the formula: within 2^-51 + N^2 2^-59 (the recurrence's drift
+ * grows with N^2: 2.4e-7 at N = 10^6).
+ * Every window is symmetric, w(n) = w(N-1-n), N = len; each weight serves
+ * element n and element N-1-n, and the centre element of an odd length
+ * has weight 1: it is copied unchanged (in place: left alone). Complex
+ * elements: both parts times the same real weight. 64f/64fc multiply in
+ * double, 32f/32fc by the weight rounded to single precision, 16s/16sc
+ * form x w in double and round to nearest with ties to even, saturating.
+ * _I forms work in place; otherwise pSrc and pDst are one vector or do not
+ * overlap. Checks: pSrc, then pDst null (qspStsNullPtr), then len below
+ * the shortest (qspStsBadSize); nothing is written on error. Reentrant.
+ */
+QspStatus qspsWinHamming_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsWinHamming_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsWinHamming_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsWinHamming_16sc_I(Qsp16sc* pSrcDst, int len);
+QspStatus qspsWinHamming_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsWinHamming_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsWinHamming_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsWinHamming_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsWinHamming_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsWinHamming_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsWinHamming_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsWinHamming_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* WinBlackman ------------------------------------------------------------- */
+/*
+ * Blackman window with parameter alpha: pDst[n] = pSrc[n] w(n), w(n) =
+ * (alpha+1)/2 - 0.5 cos(2 pi n/(N-1)) - (alpha/2) cos(4 pi n/(N-1)), N = len >= 3.
+ * alpha is a double for 64f/64fc, a float otherwise, and is used as given.
+ * Evaluated as (1 - c)(0.5 + alpha (1 + c)), c = cos(2 pi n/(N-1)), so the
+ * end weights are exactly 0. N = 3 sets both end elements to 0, whatever
+ * they hold, and keeps the middle one.
+ * The weights come from the recurrence cos(k+1)x = 2 cos x cos kx -
+ * cos(k-1)x seeded with cos t and cos 2t, t = 2 pi/(N-1) formed as
+ * 6.283185307179586 * (1/(N-1)): two cosines per call. Weight error
+ * against the formula: within 2^-51 + N^2 2^-59 (the recurrence's drift
+ * grows with N^2: 2.4e-7 at N = 10^6), times 1 + 2|alpha|.
+ * Every window is symmetric, w(n) = w(N-1-n), N = len; each weight serves
+ * element n and element N-1-n, and the centre element of an odd length
+ * has weight 1: it is copied unchanged (in place: left alone). Complex
+ * elements: both parts times the same real weight. 64f/64fc multiply in
+ * double, 32f/32fc by the weight rounded to single precision, 16s/16sc
+ * form x w in double and round to nearest with ties to even, saturating.
+ * _I forms work in place; otherwise pSrc and pDst are one vector or do not
+ * overlap. Checks: pSrc, then pDst null (qspStsNullPtr), then len below
+ * the shortest (qspStsBadSize); nothing is written on error. Reentrant.
+ */
+QspStatus qspsWinBlackman_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_16s_I(Qsp16s* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_16sc_I(Qsp16sc* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_32f_I(Qsp32f* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinBlackman_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f alpha);
+QspStatus qspsWinBlackman_64f_I(Qsp64f* pSrcDst, int len, Qsp64f alpha);
+QspStatus qspsWinBlackman_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f alpha);
+QspStatus qspsWinBlackman_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f alpha);
+
+/* WinBlackmanStd ---------------------------------------------------------- */
+/*
+ * Standard Blackman window: WinBlackman with alpha = -0.16 (the double
+ * nearest it, for every form), N = len >= 3; N = 3 zeroes both ends.
+ * The weights come from the recurrence cos(k+1)x = 2 cos x cos kx -
+ * cos(k-1)x seeded with cos t and cos 2t, t = 2 pi/(N-1) formed as
+ * 6.283185307179586 * (1/(N-1)): two cosines per call. Weight error
+ * against the formula: within 2^-51 + N^2 2^-59 (the recurrence's drift
+ * grows with N^2: 2.4e-7 at N = 10^6), times 1.32.
+ * Every window is symmetric, w(n) = w(N-1-n), N = len; each weight serves
+ * element n and element N-1-n, and the centre element of an odd length
+ * has weight 1: it is copied unchanged (in place: left alone). Complex
+ * elements: both parts times the same real weight. 64f/64fc multiply in
+ * double, 32f/32fc by the weight rounded to single precision, 16s/16sc
+ * form x w in double and round to nearest with ties to even, saturating.
+ * _I forms work in place; otherwise pSrc and pDst are one vector or do not
+ * overlap. Checks: pSrc, then pDst null (qspStsNullPtr), then len below
+ * the shortest (qspStsBadSize); nothing is written on error. Reentrant.
+ */
+QspStatus qspsWinBlackmanStd_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsWinBlackmanStd_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsWinBlackmanStd_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsWinBlackmanStd_16sc_I(Qsp16sc* pSrcDst, int len);
+QspStatus qspsWinBlackmanStd_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsWinBlackmanStd_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsWinBlackmanStd_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsWinBlackmanStd_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsWinBlackmanStd_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsWinBlackmanStd_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsWinBlackmanStd_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsWinBlackmanStd_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* WinBlackmanOpt ---------------------------------------------------------- */
+/*
+ * Optimal Blackman window: WinBlackman with alpha = -0.25/cos^2(pi/(N-1)),
+ * formed in double as t = 0.5/cos(pi/(N-1)), alpha = -(t t), pi =
+ * 3.141592653589793; N = len >= 4 (3 is qspStsBadSize here).
+ * The weights come from the recurrence cos(k+1)x = 2 cos x cos kx -
+ * cos(k-1)x seeded with cos t and cos 2t, t = 2 pi/(N-1) formed as
+ * 6.283185307179586 * (1/(N-1)): two cosines per call. Weight error
+ * against the formula: within 2^-51 + N^2 2^-59 (the recurrence's drift
+ * grows with N^2: 2.4e-7 at N = 10^6), times 1 + 2|alpha|.
+ * Every window is symmetric, w(n) = w(N-1-n), N = len; each weight serves
+ * element n and element N-1-n, and the centre element of an odd length
+ * has weight 1: it is copied unchanged (in place: left alone). Complex
+ * elements: both parts times the same real weight. 64f/64fc multiply in
+ * double, 32f/32fc by the weight rounded to single precision, 16s/16sc
+ * form x w in double and round to nearest with ties to even, saturating.
+ * _I forms work in place; otherwise pSrc and pDst are one vector or do not
+ * overlap. Checks: pSrc, then pDst null (qspStsNullPtr), then len below
+ * the shortest (qspStsBadSize); nothing is written on error. Reentrant.
+ */
+QspStatus qspsWinBlackmanOpt_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len);
+QspStatus qspsWinBlackmanOpt_16s_I(Qsp16s* pSrcDst, int len);
+QspStatus qspsWinBlackmanOpt_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len);
+QspStatus qspsWinBlackmanOpt_16sc_I(Qsp16sc* pSrcDst, int len);
+QspStatus qspsWinBlackmanOpt_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len);
+QspStatus qspsWinBlackmanOpt_32f_I(Qsp32f* pSrcDst, int len);
+QspStatus qspsWinBlackmanOpt_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len);
+QspStatus qspsWinBlackmanOpt_32fc_I(Qsp32fc* pSrcDst, int len);
+QspStatus qspsWinBlackmanOpt_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len);
+QspStatus qspsWinBlackmanOpt_64f_I(Qsp64f* pSrcDst, int len);
+QspStatus qspsWinBlackmanOpt_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len);
+QspStatus qspsWinBlackmanOpt_64fc_I(Qsp64fc* pSrcDst, int len);
+
+/* WinKaiser --------------------------------------------------------------- */
+/*
+ * Kaiser window: pDst[n] = pSrc[n] w(n), w(n) = I0(beta sqrt(1 - r^2)) /
+ * I0(beta), r = (2n - (N-1))/(N-1), beta = 0.5 |alpha| (N-1) formed in
+ * double, N = len >= 1; beta above 308 gives qspStsBadWindowParam (after
+ * the pointer and length checks; nothing written). N = 1 copies the
+ * element. alpha is a double for 64f/64fc, a float otherwise.
+ * I0 is the polynomial approximation: below 4, with t = (x/4)^2,
+ * ((((((0.0008267816 t + 0.0075942968) t + 0.0713758187) t + 0.4443189384)
+ * t + 1.777809969) t + 3.9999959541) t + 4.0000001935) t + 0.9999999985;
+ * from 4 on, e^x / sqrt(x) P(4/x) with P of degree 12 (coefficients
+ * 0.0051246015, -0.0366694767, 0.1113315511, -0.1867783276, 0.1895476618,
+ * -0.1209940805, 0.0495811118, -0.0128314822, 0.0022585672, 0.00026,
+ * 0.0017623668, 0.0124667783, 0.3989422809, highest power first). Against
+ * the true I0 the approximation is within 1.6e-9 below 4 and 5.6e-6 from
+ * 4 on. 64f, 64fc, 16s and 16sc evaluate it in double and multiply by
+ * 1/I0(beta) (within (32 + 4 beta) 2^-53 of the approximation); 32f and
+ * 32fc in single precision with e^x and e^-beta paired into e^(x-beta), so
+ * that beta up to 308 stays in range (within 2^-19 of the weight's size).
+ * Every window is symmetric, w(n) = w(N-1-n), N = len; each weight serves
+ * element n and element N-1-n, and the centre element of an odd length
+ * has weight 1: it is copied unchanged (in place: left alone). Complex
+ * elements: both parts times the same real weight. 64f/64fc multiply in
+ * double, 32f/32fc by the weight rounded to single precision, 16s/16sc
+ * form x w in double and round to nearest with ties to even, saturating.
+ * _I forms work in place; otherwise pSrc and pDst are one vector or do not
+ * overlap. Checks: pSrc, then pDst null (qspStsNullPtr), then len below
+ * the shortest (qspStsBadSize); nothing is written on error. Reentrant.
+ */
+QspStatus qspsWinKaiser_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_16s_I(Qsp16s* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_16sc_I(Qsp16sc* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_32f_I(Qsp32f* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f alpha);
+QspStatus qspsWinKaiser_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, Qsp64f alpha);
+QspStatus qspsWinKaiser_64f_I(Qsp64f* pSrcDst, int len, Qsp64f alpha);
+QspStatus qspsWinKaiser_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f alpha);
+QspStatus qspsWinKaiser_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f alpha);
+
 /* FilterMedian ------------------------------------------------------------ */
 /*
  * Running median of the last maskSize inputs (maskSize odd):
@@ -2069,6 +2305,98 @@ QspStatus qspsSampleDown_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int* pDs
 QspStatus qspsSampleDown_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
 QspStatus qspsSampleDown_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, int* pDstLen, int factor, int* pPhase);
 QspStatus qspsSampleDown_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+
+/* RandUniform ------------------------------------------------------------- */
+/*
+ * Uniformly distributed pseudo-random values from a generator state in
+ * caller memory. RandUniformGetSize gives the state's size in bytes (63
+ * bytes of alignment slack included); RandUniformInit builds the state at
+ * the first 64-byte boundary inside the caller's block for the interval
+ * and the seed; each RandUniform call continues the sequence. The same
+ * seed gives the same values on every machine, however a request is split
+ * into calls.
+ * The core stream: eight interleaved xoshiro256++ generators (Blackman and
+ * Vigna; period 2^256 - 1, all output bits pass BigCrush and PractRand).
+ * The seed goes through SplitMix64 into generator 0; generator s is
+ * generator 0 advanced by s 2^128 steps (never overlapping); step t of all
+ * eight gives the 64-bit words W(8t) .. W(8t+7) in that order; V(2j) and
+ * V(2j+1) are the low and the high half of W(j).
+ * Values: 8u, 16s: every integer of [low, high] equally likely, low +
+ * floor(V r / 2^32), r = high - low + 1, where a half V is skipped when
+ * the low 32 bits of V r fall below 2^32 mod r (so each value takes one
+ * half, rarely more). 32f: low + (high - low) u, u = (V >> 8) 2^-24, in
+ * single precision; 64f: low + (high - low) u, u = (W >> 12) 2^-52, in
+ * double; results at or above high are replaced by the value just below
+ * high (low = high gives low). When high - low overflows, both bounds are
+ * halved and the result doubled. Complex forms: the real stream over
+ * 2 len values, real part first, from the state of the real type.
+ * Init checks pState (qspStsNullPtr), then low above high or a bound that
+ * is not finite (qspStsBadRange). Generating calls check pDst, then pState
+ * (qspStsNullPtr), len (qspStsBadSize), then the state's identifier
+ * (qspStsBadRecord); nothing is written on error. Every call updates the
+ * state: one state serves one thread at a time. A state copied byte for
+ * byte works where the copy has the same address modulo 64.
+ * Example:
+ *     int size;
+ *     qspsRandUniformGetSize_32f(&size);
+ *     Qsp8u* block = qspsMalloc_8u(size);
+ *     QspsRandUniformState_32f* state = (QspsRandUniformState_32f*)block;
+ *     qspsRandUniformInit_32f(state, -1.0f, 1.0f, 2026);
+ *     qspsRandUniform_32f(x, 1024, state);   // x[i] in [-1, 1)
+ *     qspsFree(block);
+ */
+QspStatus qspsRandUniformGetSize_8u(int* pStateSize);
+QspStatus qspsRandUniformInit_8u(QspsRandUniformState_8u* pState, Qsp8u low, Qsp8u high, unsigned int seed);
+QspStatus qspsRandUniform_8u(Qsp8u* pDst, int len, QspsRandUniformState_8u* pState);
+QspStatus qspsRandUniformGetSize_16s(int* pStateSize);
+QspStatus qspsRandUniformInit_16s(QspsRandUniformState_16s* pState, Qsp16s low, Qsp16s high, unsigned int seed);
+QspStatus qspsRandUniform_16s(Qsp16s* pDst, int len, QspsRandUniformState_16s* pState);
+QspStatus qspsRandUniformGetSize_32f(int* pStateSize);
+QspStatus qspsRandUniformInit_32f(QspsRandUniformState_32f* pState, Qsp32f low, Qsp32f high, unsigned int seed);
+QspStatus qspsRandUniform_32f(Qsp32f* pDst, int len, QspsRandUniformState_32f* pState);
+QspStatus qspsRandUniformGetSize_64f(int* pStateSize);
+QspStatus qspsRandUniformInit_64f(QspsRandUniformState_64f* pState, Qsp64f low, Qsp64f high, unsigned int seed);
+QspStatus qspsRandUniform_64f(Qsp64f* pDst, int len, QspsRandUniformState_64f* pState);
+QspStatus qspsRandUniform_16sc(Qsp16sc* pDst, int len, QspsRandUniformState_16s* pState);
+QspStatus qspsRandUniform_32fc(Qsp32fc* pDst, int len, QspsRandUniformState_32f* pState);
+QspStatus qspsRandUniform_64fc(Qsp64fc* pDst, int len, QspsRandUniformState_64f* pState);
+
+/* RandGauss --------------------------------------------------------------- */
+/*
+ * Normally distributed pseudo-random values mean + stdDev z, z standard
+ * normal, from a generator state in caller memory: sizes, Init, seeding,
+ * the core stream of 64-bit words W(j) and the threading rules as in
+ * RandUniform.
+ * z by the ziggurat method (Marsaglia and Tsang; 256 layers of equal area,
+ * R = 3.654152885361009), exact in distribution up to the 2^-52 spacing of
+ * its uniform numbers: a word W gives the layer i = W mod 256 and u =
+ * (W >> 11) 2^-52 - 1; z = u x_i when |u| < x_(i+1)/x_i (98.5% of
+ * words); otherwise layer 0 samples the tail beyond R (Marsaglia's
+ * method, two words an attempt) and the other layers test the wedge with
+ * one more word. mean + stdDev z is formed in double and rounded once to
+ * the element type (8u, 16s: to nearest with ties to even, saturating).
+ * Complex forms: the real stream over 2 len values, real part first.
+ * Init checks pState (qspStsNullPtr), then mean not finite
+ * (qspStsBadArgument), then stdDev negative or not finite
+ * (qspStsBadStdDev); stdDev 0 gives the mean. Generating calls check pDst,
+ * then pState (qspStsNullPtr), len (qspStsBadSize), then the state's
+ * identifier (qspStsBadRecord); nothing is written on error.
+ */
+QspStatus qspsRandGaussGetSize_8u(int* pStateSize);
+QspStatus qspsRandGaussInit_8u(QspsRandGaussState_8u* pState, Qsp8u mean, Qsp8u stdDev, unsigned int seed);
+QspStatus qspsRandGauss_8u(Qsp8u* pDst, int len, QspsRandGaussState_8u* pState);
+QspStatus qspsRandGaussGetSize_16s(int* pStateSize);
+QspStatus qspsRandGaussInit_16s(QspsRandGaussState_16s* pState, Qsp16s mean, Qsp16s stdDev, unsigned int seed);
+QspStatus qspsRandGauss_16s(Qsp16s* pDst, int len, QspsRandGaussState_16s* pState);
+QspStatus qspsRandGaussGetSize_32f(int* pStateSize);
+QspStatus qspsRandGaussInit_32f(QspsRandGaussState_32f* pState, Qsp32f mean, Qsp32f stdDev, unsigned int seed);
+QspStatus qspsRandGauss_32f(Qsp32f* pDst, int len, QspsRandGaussState_32f* pState);
+QspStatus qspsRandGaussGetSize_64f(int* pStateSize);
+QspStatus qspsRandGaussInit_64f(QspsRandGaussState_64f* pState, Qsp64f mean, Qsp64f stdDev, unsigned int seed);
+QspStatus qspsRandGauss_64f(Qsp64f* pDst, int len, QspsRandGaussState_64f* pState);
+QspStatus qspsRandGauss_16sc(Qsp16sc* pDst, int len, QspsRandGaussState_16s* pState);
+QspStatus qspsRandGauss_32fc(Qsp32fc* pDst, int len, QspsRandGaussState_32f* pState);
+QspStatus qspsRandGauss_64fc(Qsp64fc* pDst, int len, QspsRandGaussState_64f* pState);
 
 #ifdef __cplusplus
 }

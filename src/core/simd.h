@@ -102,6 +102,19 @@ struct Vec<Qsp64u> : IntRegOps {
     static constexpr int lanes = 2;
     static Reg splat(Qsp64u x) { return _mm_set1_epi64x(static_cast<long long>(x)); }
     static Reg reverse(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(1, 0, 3, 2)); }
+    // Wrapping arithmetic and shifts of 64-bit lanes (the bit patterns of
+    // doubles: exponents and table indices).
+    static Reg add(Reg a, Reg b) { return _mm_add_epi64(a, b); }
+    static Reg sub(Reg a, Reg b) { return _mm_sub_epi64(a, b); }
+    static Reg bitAnd(Reg a, Reg b) { return _mm_and_si128(a, b); }
+    template <int n>
+    static Reg shiftLeft(Reg a) { return _mm_slli_epi64(a, n); }
+    template <int n>
+    static Reg shiftRight(Reg a) { return _mm_srli_epi64(a, n); }
+    static Reg bitOr(Reg a, Reg b) { return _mm_or_si128(a, b); }
+    static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
+    template <int n>
+    static Reg rotateLeft(Reg a) { return _mm_or_si128(_mm_slli_epi64(a, n), _mm_srli_epi64(a, 64 - n)); }
 };
 
 template <>
@@ -228,6 +241,11 @@ struct Vec<double> {
     static __m128 narrow(Reg lo, Reg hi) { return _mm_movelh_ps(_mm_cvtpd_ps(lo), _mm_cvtpd_ps(hi)); }
     static Reg pair(double a, double b) { return _mm_setr_pd(a, b); }
     static Reg fromInt32(__m128i a) { return _mm_cvtepi32_pd(a); }
+    // The lanes' bit patterns as 64-bit integer lanes, and back.
+    static __m128i bits(Reg a) { return _mm_castpd_si128(a); }
+    static Reg ofBits(__m128i a) { return _mm_castsi128_pd(a); }
+    // Lanes 2, 3 of a register of 32-bit integers, as doubles.
+    static Reg fromInt32High(__m128i a) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64(a, a)); }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
@@ -359,6 +377,8 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg quarter8u(Reg a) { return _mm_cvtepu8_epi32(_mm_srli_si128(a, 4 * q)); }
     template <int q>
     static Reg quarter8s(Reg a) { return _mm_cvtepi8_epi32(_mm_srli_si128(a, 4 * q)); }
+    // Lanes 0, 1 of a, then lanes 0, 1 of b.
+    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_epi64(a, b); }
 };
 
 // Narrowing of 32-bit lanes with saturation to the unsigned types.
