@@ -111,6 +111,7 @@ struct Vec<Qsp64u> : IntRegOps {
     static Reg shiftLeft(Reg a) { return _mm_slli_epi64(a, n); }
     template <int n>
     static Reg shiftRight(Reg a) { return _mm_srli_epi64(a, n); }
+    static Reg andNot(Reg a, Reg b) { return _mm_andnot_si128(a, b); }  // ~a & b
 };
 
 template <>
@@ -180,6 +181,9 @@ struct Vec<float> {
     static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
     static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
     static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
+    // The lanes' bit patterns as 32-bit integer lanes, and back.
+    static __m128i bits(Reg a) { return _mm_castps_si128(a); }
+    static Reg ofBits(__m128i a) { return _mm_castsi128_ps(a); }
 };
 
 template <>
@@ -240,6 +244,11 @@ struct Vec<double> {
     // The lanes' bit patterns as 64-bit integer lanes, and back.
     static __m128i bits(Reg a) { return _mm_castpd_si128(a); }
     static Reg ofBits(__m128i a) { return _mm_castsi128_pd(a); }
+    // The low 32 bits of the lanes of a, then of b, as four 32-bit lanes.
+    static __m128i lowWords(Reg a, Reg b)
+    {
+        return _mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(2, 0, 2, 0)));
+    }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
@@ -371,6 +380,11 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg quarter8u(Reg a) { return _mm_cvtepu8_epi32(_mm_srli_si128(a, 4 * q)); }
     template <int q>
     static Reg quarter8s(Reg a) { return _mm_cvtepi8_epi32(_mm_srli_si128(a, 4 * q)); }
+    // Arithmetic shift by a constant, and lanes picked by index.
+    template <int n>
+    static Reg srai(Reg a) { return _mm_srai_epi32(a, n); }
+    template <int a, int b, int c, int d>
+    static Reg shuffle(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(d, c, b, a)); }
 };
 
 // Narrowing of 32-bit lanes with saturation to the unsigned types.
