@@ -115,6 +115,7 @@ struct Vec<Qsp64u> : IntRegOps {
     static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
     template <int n>
     static Reg rotateLeft(Reg a) { return _mm_or_si128(_mm_slli_epi64(a, n), _mm_srli_epi64(a, 64 - n)); }
+    static Reg andNot(Reg a, Reg b) { return _mm_andnot_si128(a, b); }  // ~a & b
 };
 
 template <>
@@ -184,6 +185,9 @@ struct Vec<float> {
     static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
     static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
     static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
+    // The lanes' bit patterns as 32-bit integer lanes, and back.
+    static __m128i bits(Reg a) { return _mm_castps_si128(a); }
+    static Reg ofBits(__m128i a) { return _mm_castsi128_ps(a); }
 };
 
 template <>
@@ -246,6 +250,11 @@ struct Vec<double> {
     static Reg ofBits(__m128i a) { return _mm_castsi128_pd(a); }
     // Lanes 2, 3 of a register of 32-bit integers, as doubles.
     static Reg fromInt32High(__m128i a) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64(a, a)); }
+    // The low 32 bits of the lanes of a, then of b, as four 32-bit lanes.
+    static __m128i lowWords(Reg a, Reg b)
+    {
+        return _mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(2, 0, 2, 0)));
+    }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
@@ -379,6 +388,11 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg quarter8s(Reg a) { return _mm_cvtepi8_epi32(_mm_srli_si128(a, 4 * q)); }
     // Lanes 0, 1 of a, then lanes 0, 1 of b.
     static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_epi64(a, b); }
+    // Arithmetic shift by a constant, and lanes picked by index.
+    template <int n>
+    static Reg srai(Reg a) { return _mm_srai_epi32(a, n); }
+    template <int a, int b, int c, int d>
+    static Reg shuffle(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(d, c, b, a)); }
 };
 
 // Narrowing of 32-bit lanes with saturation to the unsigned types.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Two-argument arctangent in double precision (see arctan.h).
 #include "arctan.h"
 
