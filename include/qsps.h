@@ -2208,6 +2208,143 @@ QspStatus qspsWinKaiser_64f_I(Qsp64f* pSrcDst, int len, Qsp64f alpha);
 QspStatus qspsWinKaiser_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, Qsp64f alpha);
 QspStatus qspsWinKaiser_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f alpha);
 
+/* FIRMR ------------------------------------------------------------------- */
+/*
+ * Multi-rate FIR filter: the input is upsampled by U = upFactor, filtered by
+ * the N = tapsLen taps h and downsampled by D = downFactor,
+ *     u[mU + upPhase] = x[m] (zeros between),
+ *     y[n] = sum over j < N of h[j] u[nD + downPhase - j],
+ * computed in polyphase form: without the inserted zeros and without the
+ * outputs that are dropped. Every call takes numIters blocks of D inputs and
+ * writes U outputs per block: pSrc holds numIters*D samples, pDst receives
+ * numIters*U. The phases are fixed by Init (0 <= upPhase < U, 0 <= downPhase
+ * < D); with U = D = 1 the filter is FIRSR's direct form, bit for bit.
+ * Delay line: H = ceil((N-1)/U) input samples, oldest first, pDlySrc[H-1] the
+ * one just before pSrc[0] (x[-j] = pDlySrc[H-j]); a null pDlySrc means zeros.
+ * pDlyDst, when not null, receives the last H samples of delay line and input
+ * (for numIters*D >= H: pSrc[numIters*D - H ..]). With pDlySrc == pDlyDst
+ * consecutive calls give, bit for bit, the result of one call on the joined
+ * input. Latency: the taps' own delay, in output samples of the upsampled
+ * rate divided by D. pDst may equal pSrc (in place) or pDlySrc; the delay
+ * lines may be the same array; no other overlap.
+ * Arithmetic: each output sums its taps' products from the first tap on in
+ * the precision of the data (the direct kernels of FIRSR); with D > 1 the
+ * taps of an output are summed in D interleaved groups that are then added.
+ * 32f_32fc: real taps on complex data. 16s, 16sc: the 32f or 32fc record on
+ * 16-bit data, computed in single precision, rounded to nearest (ties to
+ * even) and saturated; their delay lines hold 16-bit samples.
+ * Sizes: FIRMRGetSize(tapsLen, U, D, taps type qsp32f/qsp64f/qsp32fc/qsp64fc)
+ * (and FIRMRGetSize32f_32fc) give the record's and the work buffer's bytes;
+ * neither needs alignment. Init builds the record at the first 64-byte
+ * boundary of pSpec; it begins with an identifier of its type, which every
+ * filtering call checks (qspStsBadRecord). The record is read-only after Init
+ * and may serve several streams and threads, each with its own delay lines
+ * and work buffer.
+ * Checks: GetSize in parameter order: tapsLen < 1 qspStsBadTapCount, a factor
+ * < 1 qspStsBadFactor, another type qspStsBadDataType, a null pointer
+ * qspStsNullPtr, sizes above 2^31-1 bytes qspStsOverflow. Init: tapsLen,
+ * then null pTaps or pSpec, then upFactor, upPhase, downFactor, downPhase (a
+ * phase not below its factor, compared unsigned, qspStsBadPhase). Filtering: a
+ * null pSpec, then null pSrc, pDst or pBuf (qspStsNullPtr), numIters < 1
+ * (qspStsBadSize), then the record's identifier. Nothing is written on an
+ * error.
+ *     qspsFIRMRGetSize(64, 3, 2, qsp32f, &specSize, &bufSize);
+ *     qspsFIRMRInit_32f(taps, 64, 3, 0, 2, 0, (QspsFIRMRSpec_32f*)spec);
+ *     Qsp32f dly[21] = {0};                           // ceil(63 / 3)
+ *     qspsFIRMR_32f(x, y, 100, spec, dly, dly, buf);  // 200 in, 300 out
+ */
+QspStatus qspsFIRMRGetSize(int tapsLen, int upFactor, int downFactor, QspDataType tapsType, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRMRGetSize32f_32fc(int tapsLen, int upFactor, int downFactor, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRMRInit_32f(const Qsp32f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_32f* pSpec);
+QspStatus qspsFIRMRInit_64f(const Qsp64f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_64f* pSpec);
+QspStatus qspsFIRMRInit_32fc(const Qsp32fc* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_32fc* pSpec);
+QspStatus qspsFIRMRInit_64fc(const Qsp64fc* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_64fc* pSpec);
+QspStatus qspsFIRMRInit32f_32fc(const Qsp32f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec32f_32fc* pSpec);
+QspStatus qspsFIRMR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int numIters, QspsFIRMRSpec_32f* pSpec, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int numIters, QspsFIRMRSpec_64f* pSpec, const Qsp64f* pDlySrc, Qsp64f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRMRSpec_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int numIters, QspsFIRMRSpec_64fc* pSpec, const Qsp64fc* pDlySrc, Qsp64fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_16s(const Qsp16s* pSrc, Qsp16s* pDst, int numIters, QspsFIRMRSpec_32f* pSpec, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int numIters, QspsFIRMRSpec_32fc* pSpec, const Qsp16sc* pDlySrc, Qsp16sc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR32f_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRMRSpec32f_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+
+/* FIRGen ------------------------------------------------------------------ */
+/*
+ * FIR filter design by the window method: N = tapsLen linear-phase taps,
+ * symmetric about M = (N-1)/2 (bit for bit), for relative frequencies
+ * (fractions of the sampling rate) in (0, 0.5):
+ *     lowpass   h[n] = w[n] sin(2 pi f k) / (pi k),   k = n - M (2f at k = 0)
+ *     highpass  h[n] = w[n] (d[n] - lowpass(f)),      d the unit sample at M
+ *     bandpass  h[n] = w[n] (lowpass(fHigh) - lowpass(fLow))
+ *     bandstop  h[n] = w[n] (d[n] - bandpass(fLow, fHigh))
+ * w is the library's window of length N chosen by winType: qspWinBartlett
+ * (WinBartlett), qspWinBlackman (WinBlackmanStd), qspWinHamming (WinHamming),
+ * qspWinHann (WinHann) or qspWinRect (no window). doNormal non-zero scales the
+ * taps so that the amplitude is exactly 1 at DC (lowpass, bandstop), at half
+ * the sampling rate (highpass) or at (fLow + fHigh)/2 (bandpass); 0 leaves
+ * them as above. The taps are computed in double precision in pBuffer (any
+ * alignment, FIRGenGetBufferSize bytes for tapsLen) and rounded once to the
+ * destination type; the 32f forms take their frequencies as floats.
+ * Checks, in order: a null pointer gives qspStsNullPtr; tapsLen below 1
+ * qspStsBadTapCount, below 3 qspStsBadSize, even for a highpass or bandstop
+ * (a symmetric filter of even length has a zero at half the sampling rate)
+ * qspStsBadSize; a frequency outside (0, 0.5), NaN, or fLow not below fHigh
+ * qspStsBadRelFreq; another winType qspStsBadArgument. Nothing is written on
+ * an error. Thread-safe with a buffer per call.
+ *     Qsp32f taps[101];
+ *     qspsFIRGenGetBufferSize(101, &size);        // then allocate buf
+ *     qspsFIRGenLowpass_32f(taps, 101, 0.1f, qspWinHamming, 1, buf);
+ */
+QspStatus qspsFIRGenGetBufferSize(int tapsLen, int* pBufferSize);
+QspStatus qspsFIRGenLowpass_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenLowpass_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenHighpass_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenHighpass_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandpass_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rLowFreq, Qsp32f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandpass_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rLowFreq, Qsp64f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandstop_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rLowFreq, Qsp32f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandstop_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rLowFreq, Qsp64f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+
+/* IIRGen ------------------------------------------------------------------ */
+/*
+ * IIR filter design: Butterworth or Chebyshev type I (filterType
+ * qspIIRButterworth, qspIIRChebyshev1) lowpass or highpass of order N = 1..18,
+ * by the bilinear transform of the analog prototype with the cut-off
+ * pre-warped, W = tan(pi rFreq). Magnitude at the relative frequency f, with
+ * v = tan(pi f)/W (lowpass) or W/tan(pi f) (highpass):
+ *     Butterworth  |H|^2 = 1 / (1 + v^(2N)): rFreq is the -3 dB point;
+ *     Chebyshev I  |H|^2 = 1 / (1 + e^2 T_N(v)^2), e^2 = 10^(ripple/10) - 1:
+ *                  the pass band ripples between 0 and -ripple dB and rFreq
+ *                  is where it leaves that band.
+ * The result is a cascade of (N+1)/2 biquad sections, ready for
+ * IIRInit_BiQuad_64f (numBq = (N+1)/2): pTaps receives 6 values per section,
+ *     b0 b1 b2 a0 a1 a2,  H_s(z) = (b0 + b1 z^-1 + b2 z^-2) / (1 + a1 z^-1 + a2 z^-2),
+ * a0 = 1 and the numerator g (1 + z^-1)^2 (lowpass) or g (1 - z^-1)^2
+ * (highpass). For odd N the first section is of first order (b2 = a2 = 0),
+ * then come the pole pairs from the lowest to the highest quality factor.
+ * Every section has gain 1 at the centre of the pass band (DC for lowpass,
+ * half the sampling rate for highpass); for Chebyshev of even order that
+ * point is a ripple trough and the first section carries 1/sqrt(1 + e^2).
+ * Sections are computed in extended precision and rounded once: the response
+ * keeps nearly full double precision at every order and cut-off, also where
+ * the multiplied-out polynomial of a high order would not (poles crowding at
+ * z = 1 or -1). pTaps holds 6*((N+1)/2) values.
+ * Checks, in order: a null pTaps or pBuffer gives qspStsNullPtr; an order
+ * outside 1..18 qspStsBadFilterOrder; rFreq outside (0, 0.5) or NaN
+ * qspStsBadRelFreq; another filterType qspStsBadArgument; for Chebyshev a
+ * ripple (dB) outside (0, 100] qspStsBadArgument (Butterworth ignores it).
+ * Nothing is written on an error. pBuffer (any alignment) has the size
+ * IIRGenGetBufferSize reports for the order. Thread-safe with a buffer per
+ * call.
+ *     Qsp64f taps[6 * 3];                           // order 5: 3 sections
+ *     qspsIIRGenGetBufferSize(5, &size);              // then allocate buf
+ *     qspsIIRGenLowpass_64f(taps, 5, 0.1, 0.5, qspIIRChebyshev1, buf);
+ *     qspsIIRInit_BiQuad_64f(&state, taps, 3, NULL, stateMem);
+ */
+QspStatus qspsIIRGenGetBufferSize(int order, int* pBufferSize);
+QspStatus qspsIIRGenLowpass_64f(Qsp64f* pTaps, int order, Qsp64f rFreq, Qsp64f ripple, QspIIRFilterType filterType, Qsp8u* pBuffer);
+QspStatus qspsIIRGenHighpass_64f(Qsp64f* pTaps, int order, Qsp64f rFreq, Qsp64f ripple, QspIIRFilterType filterType, Qsp8u* pBuffer);
+
 /* FilterMedian ------------------------------------------------------------ */
 /*
  * Running median of the last maskSize inputs (maskSize odd):
