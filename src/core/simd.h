@@ -171,6 +171,24 @@ struct Vec<float> {
     static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
     static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
     static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
+    // Lanes as a sequence in time (lane 0 first): shiftUp<j> delays r by j
+    // lanes with zeros entering; alignUp<j> delays cur by j lanes with the
+    // last j lanes of prev (the register before it) entering; broadcast<i>
+    // repeats lane i. j runs from 0 to 4.
+    template <int j>
+    static Reg shiftUp(Reg r)
+    {
+        return _mm_castsi128_ps(_mm_slli_si128(_mm_castps_si128(r), 4 * j));
+    }
+    template <int j>
+    static Reg alignUp(Reg cur, Reg prev)
+    {
+        if constexpr (j == 0) return cur;
+        else if constexpr (j == 4) return prev;
+        else return _mm_castsi128_ps(_mm_alignr_epi8(_mm_castps_si128(cur), _mm_castps_si128(prev), 16 - 4 * j));
+    }
+    template <int i>
+    static Reg broadcast(Reg r) { return _mm_shuffle_ps(r, r, i * 0x55); }
 };
 
 template <>
@@ -228,6 +246,25 @@ struct Vec<double> {
     static __m128 narrow(Reg lo, Reg hi) { return _mm_movelh_ps(_mm_cvtpd_ps(lo), _mm_cvtpd_ps(hi)); }
     static Reg pair(double a, double b) { return _mm_setr_pd(a, b); }
     static Reg fromInt32(__m128i a) { return _mm_cvtepi32_pd(a); }
+    // Lanes as a sequence in time, as in Vec<float>; j runs from 0 to 2.
+    template <int j>
+    static Reg shiftUp(Reg r)
+    {
+        return _mm_castsi128_pd(_mm_slli_si128(_mm_castpd_si128(r), 8 * j));
+    }
+    template <int j>
+    static Reg alignUp(Reg cur, Reg prev)
+    {
+        if constexpr (j == 0) return cur;
+        else if constexpr (j == 2) return prev;
+        else return _mm_shuffle_pd(prev, cur, 1);  // prev1, cur0
+    }
+    template <int i>
+    static Reg broadcast(Reg r)
+    {
+        if constexpr (i == 0) return _mm_movedup_pd(r);
+        else return _mm_unpackhi_pd(r, r);
+    }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
