@@ -51,6 +51,11 @@ struct IntRegOps {
     static void stream(void* p, Reg r) { _mm_stream_si128(static_cast<__m128i*>(p), r); }
     static Reg zero() { return _mm_setzero_si128(); }
     static Reg shuffleBytes(Reg r, Reg order) { return _mm_shuffle_epi8(r, order); }
+    // The low 8 or 4 bytes alone, at any alignment (loads clear the rest).
+    static Reg loadLow8(const void* p) { return _mm_loadl_epi64(static_cast<const __m128i*>(p)); }
+    static void storeLow8(void* p, Reg r) { _mm_storel_epi64(static_cast<__m128i*>(p), r); }
+    static Reg loadLow4(const void* p) { return _mm_cvtsi32_si128(loadOne(static_cast<const int*>(p))); }
+    static void storeLow4(void* p, Reg r) { storeOne(static_cast<int*>(p), _mm_cvtsi128_si32(r)); }
 };
 
 template <class T>
@@ -189,6 +194,8 @@ struct Vec<float> {
     }
     template <int i>
     static Reg broadcast(Reg r) { return _mm_shuffle_ps(r, r, i * 0x55); }
+    // 32-bit integer lanes as floats (exact below 2^24).
+    static Reg fromInt32(__m128i a) { return _mm_cvtepi32_ps(a); }
 };
 
 template <>
@@ -265,6 +272,8 @@ struct Vec<double> {
         if constexpr (i == 0) return _mm_movedup_pd(r);
         else return _mm_unpackhi_pd(r, r);
     }
+    // Both lanes rounded to single precision, in lanes 0 and 1.
+    static __m128 narrowLow(Reg a) { return _mm_cvtpd_ps(a); }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
@@ -396,6 +405,8 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg quarter8u(Reg a) { return _mm_cvtepu8_epi32(_mm_srli_si128(a, 4 * q)); }
     template <int q>
     static Reg quarter8s(Reg a) { return _mm_cvtepi8_epi32(_mm_srli_si128(a, 4 * q)); }
+    // The low 64 bits of a, then those of b.
+    static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_epi64(a, b); }
 };
 
 // Narrowing of 32-bit lanes with saturation to the unsigned types.

@@ -238,17 +238,17 @@ struct WidenIO {
 
     static Reg load(const D* pd)
     {
-        const Dp* p = reinterpret_cast<const Dp*>(pd);
+        using I = simd::Vec<Qsp32s>;
         if constexpr (std::is_same_v<P, float>) {
             static_assert(std::is_same_v<Dp, Qsp16s>);
-            return _mm_cvtepi32_ps(_mm_cvtepi16_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))));
+            return simd::Vec<float>::fromInt32(I::lo16s(I::loadLow8(pd)));
         } else if constexpr (std::is_same_v<Dp, Qsp16s>) {
-            return _mm_cvtepi32_pd(_mm_cvtepi16_epi32(_mm_cvtsi32_si128(simd::loadOne(reinterpret_cast<const int*>(p)))));
+            return simd::Vec<double>::fromInt32(I::lo16s(I::loadLow4(pd)));
         } else if constexpr (std::is_same_v<Dp, Qsp32s>) {
-            return _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+            return simd::Vec<double>::fromInt32(I::loadLow8(pd));
         } else {
             static_assert(std::is_same_v<Dp, Qsp32f>);
-            return _mm_cvtps_pd(simd::Vec<float>::loadPair(p));
+            return simd::Vec<double>::widenLow(simd::Vec<float>::loadPair(reinterpret_cast<const float*>(pd)));
         }
     }
     static typename E::S loadOne(const D* pd)
@@ -268,7 +268,10 @@ struct NarrowIO {
     using E = Lanes<T>;
     using Reg = typename E::Reg;
     static constexpr bool kPlain = false;
-    static void store(D* p, Reg r) { simd::Vec<float>::storeLowHalf(reinterpret_cast<float*>(p), _mm_cvtpd_ps(r)); }
+    static void store(D* p, Reg r)
+    {
+        simd::Vec<float>::storeLowHalf(reinterpret_cast<float*>(p), simd::Vec<double>::narrowLow(r));
+    }
     static void storeOne(D* p, typename E::S v)
     {
         if constexpr (E::kComplex) simd::storeOne(p, D{float(v.re), float(v.im)});
@@ -320,20 +323,21 @@ struct ScaledIO {
 
     void store(D* pd, Reg r) const
     {
+        using I = simd::Vec<Qsp32s>;
         if constexpr (kSingle) {
             static_assert(std::is_same_v<Dp, Qsp16s>);
             const __m128i a = toInt(VD::widenLow(r)), b = toInt(VD::widenHigh(r));
-            _mm_storel_epi64(reinterpret_cast<__m128i*>(pd), _mm_packs_epi32(_mm_unpacklo_epi64(a, b), a));
+            I::storeLow8(pd, simd::Vec<Qsp16s>::packs32(I::lowHalves(a, b), a));
         } else if constexpr (std::is_same_v<Dp, Qsp16s>) {
-            const __m128i a = _mm_packs_epi32(toInt(r), toInt(r));
-            simd::storeOne(reinterpret_cast<int*>(pd), _mm_cvtsi128_si32(a));
+            const __m128i a = toInt(r);
+            I::storeLow4(pd, simd::Vec<Qsp16s>::packs32(a, a));
         } else {
             static_assert(std::is_same_v<Dp, Qsp32s>);
-            _mm_storel_epi64(reinterpret_cast<__m128i*>(pd), toInt(r));
+            I::storeLow8(pd, toInt(r));
         }
     }
 
-    Dp one(P v) const { return Dp(_mm_cvtsi128_si32(toInt(_mm_set_sd(double(v))))); }
+    Dp one(P v) const { return Dp(simd::Vec<Qsp32s>::lane<0>(toInt(VD::splat(double(v))))); }
     void storeOne(D* p, typename E::S v) const
     {
         if constexpr (E::kComplex) simd::storeOne(p, D{one(v.re), one(v.im)});
