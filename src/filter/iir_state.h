@@ -175,8 +175,7 @@ T dlyIn(const V* p)
     else return T(simd::loadOne(p));
 }
 
-template <class T>
-void writeHeader(Header* h, Qsp32u id, const Layout& l, int order, int numBq)
+inline void writeHeader(Header* h, Qsp32u id, const Layout& l, int order, int numBq)
 {
     Qsp8u* base = reinterpret_cast<Qsp8u*>(h);
     h->id = id;
@@ -209,7 +208,7 @@ QspStatus buildAR(Qsp32u id, void** ppState, const T* pTaps, int N, const V* pDl
     using E = Lanes<T>;
     Header* h = alignState(pBuf);
     const Layout l = arLayout<T>(N, converts);
-    writeHeader<T>(h, id, l, N, 0);
+    writeHeader(h, id, l, N, 0);
     loadDelay(static_cast<T*>(h->dly), N, pDlyLine);
     const T a0 = simd::loadOne(pTaps + N + 1);
     if (E::isZero(a0)) return qspStsZeroDivisor;
@@ -231,7 +230,7 @@ QspStatus buildBiQuad(Qsp32u id, Shape shape, void** ppState, const T* pTaps, in
     using E = Lanes<T>;
     Header* h = alignState(pBuf);
     const Layout l = biquadLayout<T>(K, shape);
-    writeHeader<T>(h, id, l, 2 * K, K);
+    writeHeader(h, id, l, 2 * K, K);
     loadDelay(static_cast<T*>(h->dly), perSection(shape) * K, pDlyLine);
     T* t = static_cast<T*>(h->taps);
     auto* c = static_cast<BiQuadCoefs<T>*>(h->coefs);
