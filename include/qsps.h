@@ -1972,6 +1972,215 @@ QspStatus qspsFIRSR32f_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, Qs
 QspStatus qspsFIRSR_16s(const Qsp16s* pSrc, Qsp16s* pDst, int numIters, QspsFIRSpec_32f* pSpec, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuf);
 QspStatus qspsFIRSR_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int numIters, QspsFIRSpec_32fc* pSpec, const Qsp16sc* pDlySrc, Qsp16sc* pDlyDst, Qsp8u* pBuf);
 
+/* IIRGetStateSize --------------------------------------------------------- */
+/*
+ * Bytes of caller memory that an IIR state of the kind in the name needs, 32
+ * bytes of alignment slack included: for order N (AR shape: N+1 feed-forward
+ * and N+1 feedback taps) or numBq second-order sections (BiQuad shapes:
+ * BiQuad, and BiQuad_DF1 in direct form 1). The precision before the
+ * underscore (32f, 32fc, 64f, 64fc; none: that of the samples) is that of
+ * the taps, the delay line and the arithmetic; the code after it names the
+ * samples (32f_16s: a single-precision state for 16s samples). For
+ * qspsIIRGetStateSize_32f the size is ((4N+19) & ~15) + ((8N+19) & ~15) +
+ * 4760 + 16(2N+1); every other kind reports what its initialiser uses.
+ * Checks: null pBufferSize gives qspStsNullPtr; order or numBq below 1
+ * qspStsBadFilterOrder; a size that does not fit an int qspStsOverflow.
+ * Nothing is written on error. Thread-safe.
+ */
+QspStatus qspsIIRGetStateSize_32f(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_32f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_32fc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_32fc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32f_16s(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32f_BiQuad_16s(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32fc_16sc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32fc_BiQuad_16sc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_64f(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_64f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_64fc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_64fc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_32f(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_32f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_32fc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_BiQuad_32fc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_32s(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_32s(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_32sc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_BiQuad_32sc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_16s(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_16s(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_16sc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_BiQuad_16sc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_DF1_32f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_DF1_32s(int numBq, int* pBufferSize);
+
+/* IIRInit ----------------------------------------------------------------- */
+/*
+ * Builds an IIR state in the caller's buffer pBuf, which holds at least the
+ * size IIRGetStateSize reports for the same kind and order and needs no
+ * particular alignment: the state starts at the first 32-byte boundary in
+ * pBuf, and that address goes to *ppState. Taps: AR shape of order N, the
+ * 2N+2 values b0..bN then a0..aN; BiQuad shapes, numBq sections of six values
+ * b0, b1, b2, a0, a1, a2. The state keeps the taps normalised by a0 (times r =
+ * 1/a0 in the state's precision; each section by its own a0). pDlyLine is
+ * the initial delay line (IIRDlyLine describes it: N values, 2 per section, 4
+ * per direct-form-1 section; 32-bit integer samples for BiQuad_DF1_32s), or
+ * null for zeros. Taps and delay line are copied: the caller's arrays may be
+ * reused at once. Checks: null ppState, pTaps or pBuf gives qspStsNullPtr;
+ * order or numBq below 1 qspStsBadFilterOrder (a state whose size does not
+ * fit an int qspStsOverflow), with nothing written. Then the header and the
+ * delay line are written, and a0 = 0 gives qspStsZeroDivisor, as does, for
+ * the BiQuad shapes, a section whose b0 is 0 (sections in turn; a complex
+ * tap is zero when both parts are; -0 is zero). After any error *ppState is
+ * unchanged and the buffer holds no usable state. Init writes nothing
+ * outside the reported size.
+ */
+QspStatus qspsIIRInit_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int order, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int numBq, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_32fc(QspsIIRState_32fc** ppState, const Qsp32fc* pTaps, int order, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_32fc(QspsIIRState_32fc** ppState, const Qsp32fc* pTaps, int numBq, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32f_16s(QspsIIRState32f_16s** ppState, const Qsp32f* pTaps, int order, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32f_BiQuad_16s(QspsIIRState32f_16s** ppState, const Qsp32f* pTaps, int numBq, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32fc_16sc(QspsIIRState32fc_16sc** ppState, const Qsp32fc* pTaps, int order, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32fc_BiQuad_16sc(QspsIIRState32fc_16sc** ppState, const Qsp32fc* pTaps, int numBq, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_64f(QspsIIRState_64f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_64f(QspsIIRState_64f** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_64fc(QspsIIRState_64fc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_64fc(QspsIIRState_64fc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_32f(QspsIIRState64f_32f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_32f(QspsIIRState64f_32f** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_32fc(QspsIIRState64fc_32fc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_BiQuad_32fc(QspsIIRState64fc_32fc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_32s(QspsIIRState64f_32s** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_32s(QspsIIRState64f_32s** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_32sc(QspsIIRState64fc_32sc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_BiQuad_32sc(QspsIIRState64fc_32sc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_16s(QspsIIRState64f_16s** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_16s(QspsIIRState64f_16s** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_16sc(QspsIIRState64fc_16sc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_BiQuad_16sc(QspsIIRState64fc_16sc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_DF1_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int numBq, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_DF1_32s(QspsIIRState64f_32s** ppState, const Qsp64f* pTaps, int numBq, const Qsp32s* pDlyLine, Qsp8u* pBuf);
+
+/* IIR --------------------------------------------------------------------- */
+/*
+ * Filters len samples through an IIR state. With the taps normalised by a0:
+ * y[n] = b0 x[n] + b1 x[n-1] + ... + bN x[n-N] - a1 y[n-1] - ... - aN y[n-N];
+ * a BiQuad state runs its sections in turn, each on the previous one's
+ * output. A form serves the AR, BiQuad and (32f, 64f_32s) direct-form-1
+ * states of its types. The state's delay line holds the history, so
+ * consecutive calls continue one signal: calls on consecutive pieces give
+ * the result of one call on the joined signal, to rounding (the kernels solve
+ * the recursion for a register of samples, AR filters for blocks of 1024, at
+ * a time). The arithmetic has the state's precision; samples of another type
+ * are converted exactly on the way in. 64f_32f and 64fc_32fc round the
+ * results to single precision. The integer forms (Sfs) deliver the result
+ * times 2^-scaleFactor, rounded to nearest with ties to even and saturated
+ * (NaN gives 0); every scale factor is accepted. _I forms filter in place;
+ * otherwise pSrc and pDst are one array or do not overlap. _P, _IP, _PSfs
+ * and _IPSfs filter nChannels channels of len samples each, channel c from
+ * ppSrc[c] to ppDst[c] (_IP: in place in ppSrcDst[c]) through its own state
+ * ppState[c]; kinds and orders may differ between channels, states and
+ * destinations may not be shared. Checks: null pState, pSrc or pDst (channel
+ * forms: ppSrc, ppDst or ppState) gives qspStsNullPtr; len below 1
+ * qspStsBadSize; channel forms then nChannels below 1 qspStsBadSize and a
+ * null channel pointer qspStsNullPtr; then a state of another kind
+ * qspStsBadRecord. All channels are checked before any is filtered; on error
+ * nothing is written. Threads: every call writes its state, so a state
+ * serves one signal at a time; calls on different states may run at once.
+ * Example, a cascade of two sections over a stream of blocks:
+ *     Qsp32f taps[12] = {b0, b1, b2, 1, a1, a2,   c0, c1, c2, 1, e1, e2};
+ *     int size;
+ *     qspsIIRGetStateSize_BiQuad_32f(2, &size);
+ *     Qsp8u* buf = qspsMalloc_8u(size);
+ *     QspsIIRState_32f* st;
+ *     if (buf && qspsIIRInit_BiQuad_32f(&st, taps, 2, NULL, buf) == qspStsOk)
+ *         while ((n = read_block(x)) > 0) {      // n samples in x
+ *             qspsIIR_32f_I(x, n, st);             // continues the signal
+ *             write_block(x, n);
+ *         }
+ *     qspsFree(buf);                               // no release call
+ */
+QspStatus qspsIIR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIR_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIR_32f_P(const Qsp32f** ppSrc, Qsp32f** ppDst, int len, int nChannels, QspsIIRState_32f** ppState);
+QspStatus qspsIIR_32f_IP(Qsp32f** ppSrcDst, int len, int nChannels, QspsIIRState_32f** ppState);
+QspStatus qspsIIR_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, QspsIIRState_32fc* pState);
+QspStatus qspsIIR_32fc_I(Qsp32fc* pSrcDst, int len, QspsIIRState_32fc* pState);
+QspStatus qspsIIR32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsIIRState32f_16s* pState, int scaleFactor);
+QspStatus qspsIIR32f_16s_ISfs(Qsp16s* pSrcDst, int len, QspsIIRState32f_16s* pState, int scaleFactor);
+QspStatus qspsIIR32fc_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, QspsIIRState32fc_16sc* pState, int scaleFactor);
+QspStatus qspsIIR32fc_16sc_ISfs(Qsp16sc* pSrcDst, int len, QspsIIRState32fc_16sc* pState, int scaleFactor);
+QspStatus qspsIIR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIR_64f_I(Qsp64f* pSrcDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIR_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, QspsIIRState_64fc* pState);
+QspStatus qspsIIR_64fc_I(Qsp64fc* pSrcDst, int len, QspsIIRState_64fc* pState);
+QspStatus qspsIIR64f_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIR64f_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIR64fc_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, QspsIIRState64fc_32fc* pState);
+QspStatus qspsIIR64fc_32fc_I(Qsp32fc* pSrcDst, int len, QspsIIRState64fc_32fc* pState);
+QspStatus qspsIIR64f_32s_Sfs(const Qsp32s* pSrc, Qsp32s* pDst, int len, QspsIIRState64f_32s* pState, int scaleFactor);
+QspStatus qspsIIR64f_32s_ISfs(Qsp32s* pSrcDst, int len, QspsIIRState64f_32s* pState, int scaleFactor);
+QspStatus qspsIIR64f_32s_PSfs(const Qsp32s** ppSrc, Qsp32s** ppDst, int len, int nChannels, QspsIIRState64f_32s** ppState, int scaleFactor);
+QspStatus qspsIIR64f_32s_IPSfs(Qsp32s** ppSrcDst, int len, int nChannels, QspsIIRState64f_32s** ppState, int scaleFactor);
+QspStatus qspsIIR64fc_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc* pDst, int len, QspsIIRState64fc_32sc* pState, int scaleFactor);
+QspStatus qspsIIR64fc_32sc_ISfs(Qsp32sc* pSrcDst, int len, QspsIIRState64fc_32sc* pState, int scaleFactor);
+QspStatus qspsIIR64f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsIIRState64f_16s* pState, int scaleFactor);
+QspStatus qspsIIR64f_16s_ISfs(Qsp16s* pSrcDst, int len, QspsIIRState64f_16s* pState, int scaleFactor);
+QspStatus qspsIIR64fc_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, QspsIIRState64fc_16sc* pState, int scaleFactor);
+QspStatus qspsIIR64fc_16sc_ISfs(Qsp16sc* pSrcDst, int len, QspsIIRState64fc_16sc* pState, int scaleFactor);
+
+/* IIRDlyLine -------------------------------------------------------------- */
+/*
+ * Reads (Get) or replaces (Set) the delay line of an IIR state: the history
+ * that joins one filtering call to the next. AR states hold N values d[0..N-1]
+ * of the transposed direct form, the state before input x[n]: y[n] = b0 x[n]
+ * + d[0], then d[k] = d[k+1] + b(k+1) x[n] - a(k+1) y[n] (d[N] = 0), with the
+ * normalised taps. BiQuad states hold s1, s2 of each section in the same form
+ * (y = b0 x + s1, s1 = b1 x - a1 y + s2, s2 = b2 x - a2 y), section after
+ * section. Direct-form-1 states hold x[n-1], x[n-2], y[n-1], y[n-2] of each
+ * section (its last two inputs and outputs), section after section. Values
+ * in the state's precision; the direct-form-1 state for 32s samples
+ * exchanges them as 32-bit integers (Set converts exactly; Get rounds to
+ * nearest with ties to even and saturates). After Init the delay line holds
+ * the values Init was given (or zeros); after a call, the history of the
+ * signal so far. Set with a null pDlyLine clears it, as Init does. Get and
+ * Set are inverse: Set then Get returns the values set, Get then Set leaves
+ * the state as it was (the 32s direct form 1 to the rounding of Get). Each
+ * function accepts the states of the filtering forms of its suffix (_32f:
+ * AR, BiQuad and direct-form-1 states; 64f_32s: AR and BiQuad; 64f_DF1_32s:
+ * direct form 1). Checks: null pState (Get: or pDlyLine) gives
+ * qspStsNullPtr, then a state of another kind qspStsBadRecord; nothing is
+ * written on error. Get only reads the state; Set writes it, so no other
+ * call may use that state meanwhile.
+ */
+QspStatus qspsIIRGetDlyLine_64fc(const QspsIIRState_64fc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine_64f(const QspsIIRState_64f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine_32fc(const QspsIIRState_32fc* pState, Qsp32fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine_32f(const QspsIIRState_32f* pState, Qsp32f* pDlyLine);
+QspStatus qspsIIRGetDlyLine64fc_32sc(const QspsIIRState64fc_32sc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine64fc_32fc(const QspsIIRState64fc_32fc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine64fc_16sc(const QspsIIRState64fc_16sc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_DF1_32s(const QspsIIRState64f_32s* pState, Qsp32s* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_32s(const QspsIIRState64f_32s* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_32f(const QspsIIRState64f_32f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_16s(const QspsIIRState64f_16s* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine32fc_16sc(const QspsIIRState32fc_16sc* pState, Qsp32fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine32f_16s(const QspsIIRState32f_16s* pState, Qsp32f* pDlyLine);
+QspStatus qspsIIRSetDlyLine_64fc(QspsIIRState_64fc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine_64f(QspsIIRState_64f* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine_32fc(QspsIIRState_32fc* pState, const Qsp32fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine_32f(QspsIIRState_32f* pState, const Qsp32f* pDlyLine);
+QspStatus qspsIIRSetDlyLine64fc_32sc(QspsIIRState64fc_32sc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine64fc_32fc(QspsIIRState64fc_32fc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine64fc_16sc(QspsIIRState64fc_16sc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_DF1_32s(QspsIIRState64f_32s* pState, const Qsp32s* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_32s(QspsIIRState64f_32s* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_32f(QspsIIRState64f_32f* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_16s(QspsIIRState64f_16s* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine32fc_16sc(QspsIIRState32fc_16sc* pState, const Qsp32fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine32f_16s(QspsIIRState32f_16s* pState, const Qsp32f* pDlyLine);
+
 /* WinBartlett ------------------------------------------------------------- */
 /*
  * Bartlett (triangle) window: pDst[n] = pSrc[n] w(n), w(n) = 2n/(N-1) for

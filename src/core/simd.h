@@ -51,6 +51,11 @@ struct IntRegOps {
     static void stream(void* p, Reg r) { _mm_stream_si128(static_cast<__m128i*>(p), r); }
     static Reg zero() { return _mm_setzero_si128(); }
     static Reg shuffleBytes(Reg r, Reg order) { return _mm_shuffle_epi8(r, order); }
+    // The low 8 or 4 bytes alone, at any alignment (loads clear the rest).
+    static Reg loadLow8(const void* p) { return _mm_loadl_epi64(static_cast<const __m128i*>(p)); }
+    static void storeLow8(void* p, Reg r) { _mm_storel_epi64(static_cast<__m128i*>(p), r); }
+    static Reg loadLow4(const void* p) { return _mm_cvtsi32_si128(loadOne(static_cast<const int*>(p))); }
+    static void storeLow4(void* p, Reg r) { storeOne(static_cast<int*>(p), _mm_cvtsi128_si32(r)); }
 };
 
 template <class T>
@@ -188,6 +193,26 @@ struct Vec<float> {
     // The lanes' bit patterns as 32-bit integer lanes, and back.
     static __m128i bits(Reg a) { return _mm_castps_si128(a); }
     static Reg ofBits(__m128i a) { return _mm_castsi128_ps(a); }
+    // Lanes as a sequence in time (lane 0 first): shiftUp<j> delays r by j
+    // lanes with zeros entering; alignUp<j> delays cur by j lanes with the
+    // last j lanes of prev (the register before it) entering; broadcast<i>
+    // repeats lane i. j runs from 0 to 4.
+    template <int j>
+    static Reg shiftUp(Reg r)
+    {
+        return _mm_castsi128_ps(_mm_slli_si128(_mm_castps_si128(r), 4 * j));
+    }
+    template <int j>
+    static Reg alignUp(Reg cur, Reg prev)
+    {
+        if constexpr (j == 0) return cur;
+        else if constexpr (j == 4) return prev;
+        else return _mm_castsi128_ps(_mm_alignr_epi8(_mm_castps_si128(cur), _mm_castps_si128(prev), 16 - 4 * j));
+    }
+    template <int i>
+    static Reg broadcast(Reg r) { return _mm_shuffle_ps(r, r, i * 0x55); }
+    // 32-bit integer lanes as floats (exact below 2^24).
+    static Reg fromInt32(__m128i a) { return _mm_cvtepi32_ps(a); }
 };
 
 template <>
@@ -255,6 +280,27 @@ struct Vec<double> {
     {
         return _mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(2, 0, 2, 0)));
     }
+    // Lanes as a sequence in time, as in Vec<float>; j runs from 0 to 2.
+    template <int j>
+    static Reg shiftUp(Reg r)
+    {
+        return _mm_castsi128_pd(_mm_slli_si128(_mm_castpd_si128(r), 8 * j));
+    }
+    template <int j>
+    static Reg alignUp(Reg cur, Reg prev)
+    {
+        if constexpr (j == 0) return cur;
+        else if constexpr (j == 2) return prev;
+        else return _mm_shuffle_pd(prev, cur, 1);  // prev1, cur0
+    }
+    template <int i>
+    static Reg broadcast(Reg r)
+    {
+        if constexpr (i == 0) return _mm_movedup_pd(r);
+        else return _mm_unpackhi_pd(r, r);
+    }
+    // Both lanes rounded to single precision, in lanes 0 and 1.
+    static __m128 narrowLow(Reg a) { return _mm_cvtpd_ps(a); }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
