@@ -2600,6 +2600,177 @@ QspStatus qspsFilterMedian_32s_I(Qsp32s* pSrcDst, int len, int maskSize, const Q
 QspStatus qspsFilterMedian_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int maskSize, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuffer);
 QspStatus qspsFilterMedian_32f_I(Qsp32f* pSrcDst, int len, int maskSize, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuffer);
 
+/* FIRLMS ------------------------------------------------------------------ */
+/*
+ * Adaptive FIR filter by the least-mean-squares rule. For every input x[n]:
+ *     y[n] = sum over k < tapsLen of t[k] x[n-k],   pDst[n] = y[n],
+ *     e = pRef[n] - y[n],   then t[k] += mu e x[n-k] for every k,
+ * so the taps of sample n+1 have seen sample n. All arithmetic is single
+ * precision: y is a sum of eight interleaved partial sums (term k of the
+ * reversed taps in sum k mod 8) added pairwise, then the last tapsLen mod 8
+ * terms; each tap update is one multiply and one add. Checks: pointers
+ * (pSrc, pRef, pDst, pState), len < 1 gives qspStsBadSize, mu outside the
+ * open interval (0, 1) (NaN included) gives qspStsBadMu, a state of another
+ * kind gives qspStsBadRecord; nothing is written on error. pDst may be
+ * pSrc or pRef.
+ *
+ * Delay line: a ring of tapsLen samples with a current index dlyIndex
+ * (outside [0, tapsLen) gives qspStsBadDelayIndex): pDlyLine[(dlyIndex - k)
+ * mod tapsLen] is x[-k] for k = 1 .. tapsLen-1, and the element at
+ * dlyIndex is overwritten by the next input; each input advances the index
+ * by one (mod tapsLen). Init takes the taps (null: zeros) and the delay line
+ * (null: zeros); GetTaps reads the current taps in natural order (t[0]
+ * first), GetDlyLine the ring and its index, SetDlyLine replaces them (null:
+ * zeros). The state (its taps and ring) changes with every call: one state
+ * per stream, not shared between threads. Consecutive calls on the pieces
+ * of a stream give the bits of one call on the whole; latency 0.
+ * 32f_16s: 16-bit inputs, references, outputs and delay line, single-
+ * precision taps and arithmetic; pDst receives y rounded to nearest (ties
+ * to even) and saturated, the error uses the unrounded y.
+ * Size: GetStateSize(tapsLen, dlyIndex) bytes, any alignment.
+ *     int size; qspsFIRLMSGetStateSize_32f(32, 0, &size);
+ *     QspsFIRLMSState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsFIRLMSInit_32f(&st, NULL, 32, NULL, 0, mem);
+ *     qspsFIRLMS_32f(x, desired, y, len, 0.01f, st);
+ *     qspsFIRLMSGetTaps_32f(st, taps);
+ */
+QspStatus qspsFIRLMSGetStateSize_32f(int tapsLen, int dlyIndex, int* pBufferSize);
+QspStatus qspsFIRLMSInit_32f(QspsFIRLMSState_32f** ppState, const Qsp32f* pTaps, int tapsLen, const Qsp32f* pDlyLine, int dlyIndex, Qsp8u* pBuffer);
+QspStatus qspsFIRLMS_32f(const Qsp32f* pSrc, const Qsp32f* pRef, Qsp32f* pDst, int len, Qsp32f mu, QspsFIRLMSState_32f* pState);
+QspStatus qspsFIRLMSGetTaps_32f(const QspsFIRLMSState_32f* pState, Qsp32f* pOutTaps);
+QspStatus qspsFIRLMSGetDlyLine_32f(const QspsFIRLMSState_32f* pState, Qsp32f* pDlyLine, int* pDlyIndex);
+QspStatus qspsFIRLMSSetDlyLine_32f(QspsFIRLMSState_32f* pState, const Qsp32f* pDlyLine, int dlyIndex);
+QspStatus qspsFIRLMSGetStateSize32f_16s(int tapsLen, int dlyIndex, int* pBufferSize);
+QspStatus qspsFIRLMSInit32f_16s(QspsFIRLMSState32f_16s** ppState, const Qsp32f* pTaps, int tapsLen, const Qsp16s* pDlyLine, int dlyIndex, Qsp8u* pBuffer);
+QspStatus qspsFIRLMS32f_16s(const Qsp16s* pSrc, const Qsp16s* pRef, Qsp16s* pDst, int len, Qsp32f mu, QspsFIRLMSState32f_16s* pState);
+QspStatus qspsFIRLMSGetTaps32f_16s(const QspsFIRLMSState32f_16s* pState, Qsp32f* pOutTaps);
+QspStatus qspsFIRLMSGetDlyLine32f_16s(const QspsFIRLMSState32f_16s* pState, Qsp16s* pDlyLine, int* pDlyIndex);
+QspStatus qspsFIRLMSSetDlyLine32f_16s(QspsFIRLMSState32f_16s* pState, const Qsp16s* pDlyLine, int dlyIndex);
+
+/* IIRIIR ------------------------------------------------------------------ */
+/*
+ * Zero-phase IIR filtering: the block is filtered forward and then backward
+ * through the same AR filter of order N (taps as in IIRInit: b0 .. bN,
+ * a0 .. aN, a0 not zero, else qspStsZeroDivisor), so the magnitude response
+ * is |H|^2 and the phase is zero; no delay, no latency. The edges: the block
+ * is extended at each end by P = min(3N, len - 1) samples reflected about
+ * its end sample, x[-k] = 2 x[0] - x[k] and x[len-1+k] = 2 x[len-1] -
+ * x[len-1-k] (k = 1 .. P); each pass starts from the steady state z that
+ * the filter reaches under a constant input, scaled by the first sample the
+ * pass sees (z[k] = sum over j > k of (b_j - a_j g) / a0 with g = sum b /
+ * sum a, the transposed direct form of IIR; zero when sum a = 0, a pole at
+ * z = 1), which removes the start-up transients; the extensions are cut
+ * off. The forward pass starts from that state plus the forward delay line
+ * (N values in the order of IIRGetDlyLine; zeros by default): Init
+ * (pDlyLine null: zeros), GetDlyLine and SetDlyLine (null: zeros) exchange
+ * it, and filtering leaves it unchanged, since every call treats its block
+ * as a whole signal. The arithmetic is IIR's of the same type (64f_32f:
+ * double precision, the forward results rounded to single precision
+ * between the passes). _I filters in place; pDst may also be pSrc. Checks:
+ * pointers, len < 1 qspStsBadSize, a foreign state qspStsBadRecord; order
+ * < 1 at GetStateSize and Init qspStsBadFilterOrder. The record holds
+ * the passes' working state: one call at a time per state.
+ *     int size; qspsIIRIIRGetStateSize_32f(2, &size);
+ *     QspsIIRState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsIIRIIRInit_32f(&st, taps, 2, NULL, mem);   // taps: b0 b1 b2 a0 a1 a2
+ *     qspsIIRIIR_32f(x, y, len, st);
+ */
+QspStatus qspsIIRIIRGetStateSize_32f(int order, int* pBufferSize);
+QspStatus qspsIIRIIRInit_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int order, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRIIR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIRIIR_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIRIIRGetDlyLine_32f(const QspsIIRState_32f* pState, Qsp32f* pDlyLine);
+QspStatus qspsIIRIIRSetDlyLine_32f(QspsIIRState_32f* pState, const Qsp32f* pDlyLine);
+QspStatus qspsIIRIIRGetStateSize_64f(int order, int* pBufferSize);
+QspStatus qspsIIRIIRInit_64f(QspsIIRState_64f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRIIR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIRIIR_64f_I(Qsp64f* pSrcDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIRIIRGetDlyLine_64f(const QspsIIRState_64f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRIIRSetDlyLine_64f(QspsIIRState_64f* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRIIRGetStateSize64f_32f(int order, int* pBufferSize);
+QspStatus qspsIIRIIRInit64f_32f(QspsIIRState64f_32f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRIIR64f_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIRIIR64f_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIRIIRGetDlyLine64f_32f(const QspsIIRState64f_32f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRIIRSetDlyLine64f_32f(QspsIIRState64f_32f* pState, const Qsp64f* pDlyLine);
+
+/* FIRSparse --------------------------------------------------------------- */
+/*
+ * FIR filter with few non-zero taps:
+ *     y[n] = sum over j < nzTapsLen of pNZTaps[j] x[n - pNZTapPos[j]],
+ * positions strictly ascending and non-negative (else qspStsBadArgument at
+ * Init), so it equals the dense filter of order + 1 taps with zeros
+ * elsewhere, order being the largest position. Each output is formed
+ * tap by tap in the given order (the first product, then each further
+ * product added), the same for every sample, so consecutive calls on the
+ * pieces of a stream give the bits of one call on the whole; latency 0.
+ * Checks: GetStateSize: null pointer, nzTapsLen < 1 qspStsBadTapCount,
+ * order < nzTapsLen - 1 qspStsBadFilterOrder; Init: pointers (the delay
+ * line may be null: zeros), nzTapsLen < 1 qspStsBadTapCount, positions;
+ * filtering: pointers, len < 1 qspStsBadSize, a foreign state
+ * qspStsBadRecord. The state must be sized with order equal to the largest
+ * position. Delay line: the last `order` inputs, oldest first (the last one
+ * is x[-1]), kept in the state (one state per stream); GetDlyLine reads and
+ * SetDlyLine (null: zeros) replaces it; order 0 has none. pDst may be pSrc.
+ * 32f_16s: 16-bit data and delay line, 32f taps and arithmetic, results
+ * times 2^-scaleFactor, rounded to nearest even and saturated.
+ *     int pos[3] = {0, 40, 1000}; Qsp32f t[3] = {1.0f, 0.5f, 0.25f};
+ *     int size; qspsFIRSparseGetStateSize_32f(3, 1000, &size);
+ *     QspsFIRSparseState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsFIRSparseInit_32f(&st, t, pos, 3, NULL, mem);
+ *     qspsFIRSparse_32f(x, y, len, st);
+ */
+QspStatus qspsFIRSparseGetStateSize_32f(int nzTapsLen, int order, int* pStateSize);
+QspStatus qspsFIRSparseInit_32f(QspsFIRSparseState_32f** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen, const Qsp32f* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsFIRSparse_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsFIRSparseState_32f* pState);
+QspStatus qspsFIRSparseGetDlyLine_32f(const QspsFIRSparseState_32f* pState, Qsp32f* pDlyLine);
+QspStatus qspsFIRSparseSetDlyLine_32f(QspsFIRSparseState_32f* pState, const Qsp32f* pDlyLine);
+QspStatus qspsFIRSparseGetStateSize_32fc(int nzTapsLen, int order, int* pStateSize);
+QspStatus qspsFIRSparseInit_32fc(QspsFIRSparseState_32fc** ppState, const Qsp32fc* pNZTaps, const int* pNZTapPos, int nzTapsLen, const Qsp32fc* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsFIRSparse_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, QspsFIRSparseState_32fc* pState);
+QspStatus qspsFIRSparseGetDlyLine_32fc(const QspsFIRSparseState_32fc* pState, Qsp32fc* pDlyLine);
+QspStatus qspsFIRSparseSetDlyLine_32fc(QspsFIRSparseState_32fc* pState, const Qsp32fc* pDlyLine);
+QspStatus qspsFIRSparseGetStateSize32f_16s(int nzTapsLen, int order, int* pStateSize);
+QspStatus qspsFIRSparseInit32f_16s(QspsFIRSparseState32f_16s** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen, const Qsp16s* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsFIRSparse32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsFIRSparseState32f_16s* pState, int scaleFactor);
+QspStatus qspsFIRSparseGetDlyLine32f_16s(const QspsFIRSparseState32f_16s* pState, Qsp16s* pDlyLine);
+QspStatus qspsFIRSparseSetDlyLine32f_16s(QspsFIRSparseState32f_16s* pState, const Qsp16s* pDlyLine);
+
+/* IIRSparse --------------------------------------------------------------- */
+/*
+ * IIR filter with few non-zero taps:
+ *     y[n] = sum over j < nzTapsLen1 of b_j x[n - p_j]
+ *            - sum over k < nzTapsLen2 of a_k y[n - q_k];
+ * pNZTaps holds the nzTapsLen1 feed-forward values b then the nzTapsLen2
+ * feedback values a (already normalised: no a0), pNZTapPos their positions,
+ * p strictly ascending from 0 on, q strictly ascending from 1 on (else
+ * qspStsBadArgument at Init). order1 and order2 are the largest p and q
+ * (order2 = 0 without feedback taps). The feed-forward sum is formed as in
+ * FIRSparse, then the feedback terms are subtracted one by one in the given
+ * order; consecutive calls on the pieces of a stream give the bits of one
+ * call on the whole. Checks: GetStateSize: null pointer, nzTapsLen1 < 1 or
+ * nzTapsLen2 < 0 qspStsBadTapCount, order1 < nzTapsLen1 - 1 or order2 <
+ * nzTapsLen2 qspStsBadFilterOrder; Init: pointers, counts, positions;
+ * filtering: pointers, len < 1 qspStsBadSize, a foreign state
+ * qspStsBadRecord. Delay line at Init (null: zeros): the last order1 inputs
+ * then the last order2 outputs, each oldest first; it lives in the state
+ * (one state per stream). 32f_16s: 16-bit data, 32f taps and arithmetic;
+ * the output history keeps the single-precision results before scaling (a
+ * 16-bit delay line gives its values), pDst receives them times
+ * 2^-scaleFactor, rounded to nearest even and saturated.
+ *     Qsp32f t[2] = {1.0f, -0.9f}; int pos[2] = {0, 100};  // a comb
+ *     int size; qspsIIRSparseGetStateSize_32f(1, 1, 0, 100, &size);
+ *     QspsIIRSparseState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsIIRSparseInit_32f(&st, t, pos, 1, 1, NULL, mem);
+ *     qspsIIRSparse_32f(x, y, len, st);
+ */
+QspStatus qspsIIRSparseGetStateSize_32f(int nzTapsLen1, int nzTapsLen2, int order1, int order2, int* pStateSize);
+QspStatus qspsIIRSparseInit_32f(QspsIIRSparseState_32f** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen1, int nzTapsLen2, const Qsp32f* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsIIRSparse_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRSparseState_32f* pState);
+QspStatus qspsIIRSparseGetStateSize32f_16s(int nzTapsLen1, int nzTapsLen2, int order1, int order2, int* pStateSize);
+QspStatus qspsIIRSparseInit32f_16s(QspsIIRSparseState32f_16s** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen1, int nzTapsLen2, const Qsp16s* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsIIRSparse32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsIIRSparseState32f_16s* pState, int scaleFactor);
+
 /* SampleUp ---------------------------------------------------------------- */
 /*
  * Upsampling by an integer factor: every source element becomes a group of
