@@ -2746,8 +2746,8 @@ QspStatus qspsFIRSparseSetDlyLine32f_16s(QspsFIRSparseState32f_16s* pState, cons
  * p strictly ascending from 0 on, q strictly ascending from 1 on (else
  * qspStsBadArgument at Init). order1 and order2 are the largest p and q
  * (order2 = 0 without feedback taps). The feed-forward sum is formed as in
- * FIRSparse, then the feedback terms are subtracted one by one in the given
- * order; consecutive calls on the pieces of a stream give the bits of one
+ * FIRSparse, then the feedback terms are subtracted one by one from the last
+ * (farthest) to the first (nearest); consecutive calls on the pieces of a stream give the bits of one
  * call on the whole. Checks: GetStateSize: null pointer, nzTapsLen1 < 1 or
  * nzTapsLen2 < 0 qspStsBadTapCount, order1 < nzTapsLen1 - 1 or order2 <
  * nzTapsLen2 qspStsBadFilterOrder; Init: pointers, counts, positions;

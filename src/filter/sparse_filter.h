@@ -54,12 +54,13 @@ static_assert(sizeof(Header) <= 64);
 
 constexpr Qsp64s align16(Qsp64s x) { return (x + 15) & ~Qsp64s(15); }
 
-// Samples per block: at least 1024, and at least the longer history so that
-// sliding the history costs no more than the block itself.
+// Samples per block: at least 4096, and at least four times the longer
+// history, so that sliding the histories costs at most a quarter of the
+// block's own copies.
 constexpr Qsp64s blockFor(Qsp64s order1, Qsp64s order2)
 {
-    const Qsp64s m = order1 > order2 ? order1 : order2;
-    return m > 1024 ? align16(m) : 1024;
+    const Qsp64s m = 4 * (order1 > order2 ? order1 : order2);
+    return m > 4096 ? align16(m) : 4096;
 }
 
 struct Layout {
@@ -198,14 +199,17 @@ void multiplyAdd(T t, const T* x, T* acc, int count)
     }
 }
 
-// The feedback of one sample: s - a[0] y[-q[0]] - a[1] y[-q[1]] - ...
+// The feedback of one sample, the farthest term first: s - a[nz-1]
+// y[-q[nz-1]] - ... - a[0] y[-q[0]]. The nearest output, which the previous
+// sample has only just produced, enters last, so that the chain from one
+// output to the next is one multiply and one subtraction long.
 template <class T>
 T feedback(T s, const T* a, const int* q, int nz, const T* y)
 {
     if constexpr (Parts<T>::n == 1) {
-        for (int k = 0; k < nz; ++k) s = s - a[k] * y[-q[k]];
+        for (int k = nz - 1; k >= 0; --k) s = s - a[k] * y[-q[k]];
     } else {
-        for (int k = 0; k < nz; ++k) {
+        for (int k = nz - 1; k >= 0; --k) {
             const T v = y[-q[k]];
             const float re = v.re * a[k].re - v.im * a[k].im, im = v.im * a[k].re + v.re * a[k].im;
             s = {s.re - re, s.im - im};
@@ -257,7 +261,22 @@ void run(Header* h, const D* src, D* dst, int len, const IO& io)
         const T* y = sums;
         if (nzFB > 0) {
             T* yo = ys + o2;
-            for (int i = 0; i < n; ++i) yo[i] = feedback(sums[i], a, q, nzFB, yo + i);
+            bool done = false;
+            if constexpr (Parts<T>::n == 1) {
+                if (q[0] == 1) {
+                    // The nearest output kept in a register rather than read
+                    // back from memory: the same arithmetic, a shorter chain.
+                    T prev = yo[-1];
+                    for (int i = 0; i < n; ++i) {
+                        const T s = feedback(sums[i], a + 1, q + 1, nzFB - 1, yo + i);
+                        prev = s - a[0] * prev;
+                        yo[i] = prev;
+                    }
+                    done = true;
+                }
+            }
+            if (!done)
+                for (int i = 0; i < n; ++i) yo[i] = feedback(sums[i], a, q, nzFB, yo + i);
             y = yo;
         }
         io.out(dst + done, y, n);
