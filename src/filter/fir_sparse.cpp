@@ -34,16 +34,6 @@ QspStatus init(Qsp32u id, S** ppState, const T* pTaps, const int* pPos, int nzTa
     return qspStsOk;
 }
 
-template <class T, class D, class S, class IO>
-QspStatus filter(Qsp32u id, const D* pSrc, D* pDst, int len, S* pState, const IO& io)
-{
-    if (QspStatus s = check::vectors(len, pSrc, pDst, pState)) return s;
-    auto* h = reinterpret_cast<sparse::Header*>(pState);
-    if (h->id != id) return qspStsBadRecord;
-    sparse::run<T>(h, pSrc, pDst, len, io);
-    return qspStsOk;
-}
-
 template <class T, class V, class S>
 QspStatus getDly(Qsp32u id, const S* pState, V* pDlyLine)
 {
@@ -78,7 +68,7 @@ QspStatus qspsFIRSparseInit_32f(QspsFIRSparseState_32f** ppState, const Qsp32f* 
 }
 QspStatus qspsFIRSparse_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsFIRSparseState_32f* pState)
 {
-    return filter<Qsp32f>(kId32f, pSrc, pDst, len, pState, sparse::SameIO<Qsp32f>{});
+    return sparse::filter<Qsp32f>(kId32f, pSrc, pDst, len, pState, sparse::SameIO<Qsp32f>{});
 }
 QspStatus qspsFIRSparseGetDlyLine_32f(const QspsFIRSparseState_32f* pState, Qsp32f* pDlyLine)
 {
@@ -100,7 +90,7 @@ QspStatus qspsFIRSparseInit_32fc(QspsFIRSparseState_32fc** ppState, const Qsp32f
 }
 QspStatus qspsFIRSparse_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, QspsFIRSparseState_32fc* pState)
 {
-    return filter<Qsp32fc>(kId32fc, pSrc, pDst, len, pState, sparse::SameIO<Qsp32fc>{});
+    return sparse::filter<Qsp32fc>(kId32fc, pSrc, pDst, len, pState, sparse::SameIO<Qsp32fc>{});
 }
 QspStatus qspsFIRSparseGetDlyLine_32fc(const QspsFIRSparseState_32fc* pState, Qsp32fc* pDlyLine)
 {
@@ -123,7 +113,7 @@ QspStatus qspsFIRSparseInit32f_16s(QspsFIRSparseState32f_16s** ppState, const Qs
 QspStatus qspsFIRSparse32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsFIRSparseState32f_16s* pState,
                                    int scaleFactor)
 {
-    return filter<Qsp32f>(kId32f16s, pSrc, pDst, len, pState, sparse::Scaled16(scaleFactor));
+    return sparse::filter<Qsp32f>(kId32f16s, pSrc, pDst, len, pState, sparse::Scaled16(scaleFactor));
 }
 QspStatus qspsFIRSparseGetDlyLine32f_16s(const QspsFIRSparseState32f_16s* pState, Qsp16s* pDlyLine)
 {

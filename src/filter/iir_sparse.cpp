@@ -32,16 +32,6 @@ QspStatus init(Qsp32u id, S** ppState, const Qsp32f* pTaps, const int* pPos, int
     return qspStsOk;
 }
 
-template <class D, class S, class IO>
-QspStatus filter(Qsp32u id, const D* pSrc, D* pDst, int len, S* pState, const IO& io)
-{
-    if (QspStatus s = check::vectors(len, pSrc, pDst, pState)) return s;
-    auto* h = reinterpret_cast<sparse::Header*>(pState);
-    if (h->id != id) return qspStsBadRecord;
-    sparse::run<Qsp32f>(h, pSrc, pDst, len, io);
-    return qspStsOk;
-}
-
 }  // namespace
 
 QspStatus qspsIIRSparseGetStateSize_32f(int nzTapsLen1, int nzTapsLen2, int order1, int order2, int* pStateSize)
@@ -55,7 +45,7 @@ QspStatus qspsIIRSparseInit_32f(QspsIIRSparseState_32f** ppState, const Qsp32f* 
 }
 QspStatus qspsIIRSparse_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRSparseState_32f* pState)
 {
-    return filter(kId32f, pSrc, pDst, len, pState, sparse::SameIO<Qsp32f>{});
+    return sparse::filter<Qsp32f>(kId32f, pSrc, pDst, len, pState, sparse::SameIO<Qsp32f>{});
 }
 
 QspStatus qspsIIRSparseGetStateSize32f_16s(int nzTapsLen1, int nzTapsLen2, int order1, int order2, int* pStateSize)
@@ -70,7 +60,7 @@ QspStatus qspsIIRSparseInit32f_16s(QspsIIRSparseState32f_16s** ppState, const Qs
 QspStatus qspsIIRSparse32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsIIRSparseState32f_16s* pState,
                                    int scaleFactor)
 {
-    return filter(kId32f16s, pSrc, pDst, len, pState, sparse::Scaled16(scaleFactor));
+    return sparse::filter<Qsp32f>(kId32f16s, pSrc, pDst, len, pState, sparse::Scaled16(scaleFactor));
 }
 
 }  // namespace y8

@@ -286,4 +286,16 @@ void run(Header* h, const D* src, D* dst, int len, const IO& io)
     }
 }
 
+// A filtering call: checks (pointers, length, the record's identifier),
+// then the run.
+template <class T, class D, class S, class IO>
+QspStatus filter(Qsp32u id, const D* pSrc, D* pDst, int len, S* pState, const IO& io)
+{
+    if (QspStatus s = check::vectors(len, pSrc, pDst, pState)) return s;
+    auto* h = reinterpret_cast<Header*>(pState);
+    if (h->id != id) return qspStsBadRecord;
+    run<T>(h, pSrc, pDst, len, io);
+    return qspStsOk;
+}
+
 }  // namespace sparse
