@@ -2708,8 +2708,8 @@ QspStatus qspsIIRIIRSetDlyLine64f_32f(QspsIIRState64f_32f* pState, const Qsp64f*
  * order < nzTapsLen - 1 qspStsBadFilterOrder; Init: pointers (the delay
  * line may be null: zeros), nzTapsLen < 1 qspStsBadTapCount, positions;
  * filtering: pointers, len < 1 qspStsBadSize, a foreign state
- * qspStsBadRecord. The state must be sized with order equal to the largest
- * position. Delay line: the last `order` inputs, oldest first (the last one
+ * qspStsBadRecord. The state must be sized with an order of at least the
+ * largest position. Delay line: the last `order` inputs, oldest first (the last one
  * is x[-1]), kept in the state (one state per stream); GetDlyLine reads and
  * SetDlyLine (null: zeros) replaces it; order 0 has none. pDst may be pSrc.
  * 32f_16s: 16-bit data and delay line, 32f taps and arithmetic, results
@@ -2745,7 +2745,8 @@ QspStatus qspsFIRSparseSetDlyLine32f_16s(QspsFIRSparseState32f_16s* pState, cons
  * feedback values a (already normalised: no a0), pNZTapPos their positions,
  * p strictly ascending from 0 on, q strictly ascending from 1 on (else
  * qspStsBadArgument at Init). order1 and order2 are the largest p and q
- * (order2 = 0 without feedback taps). The feed-forward sum is formed as in
+ * (order2 = 0 without feedback taps); the state must be sized with orders of
+ * at least those. The feed-forward sum is formed as in
  * FIRSparse, then the feedback terms are subtracted one by one from the last
  * (farthest) to the first (nearest); consecutive calls on the pieces of a stream give the bits of one
  * call on the whole. Checks: GetStateSize: null pointer, nzTapsLen1 < 1 or
