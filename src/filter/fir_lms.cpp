@@ -49,14 +49,21 @@ QspStatus sizeAndIndex(int tapsLen, int dlyIndex)
     return qspStsOk;
 }
 
+// The state's size in bytes, alignment slack included; qspStsOverflow when
+// it does not fit in an int.
+QspStatus stateBytes(int tapsLen, int* size)
+{
+    const Qsp64s bytes = ringOffset(tapsLen) + 8 * Qsp64s(tapsLen) + 63;
+    if (bytes > 0x7FFFFFFF) return qspStsOverflow;
+    *size = int(bytes);
+    return qspStsOk;
+}
+
 QspStatus getSize(int tapsLen, int dlyIndex, int* pBufferSize)
 {
     if (QspStatus s = check::pointers(pBufferSize)) return s;
     if (QspStatus s = sizeAndIndex(tapsLen, dlyIndex)) return s;
-    const Qsp64s size = ringOffset(tapsLen) + 8 * Qsp64s(tapsLen) + 63;
-    if (size > 0x7FFFFFFF) return qspStsOverflow;
-    *pBufferSize = int(size);
-    return qspStsOk;
+    return stateBytes(tapsLen, pBufferSize);
 }
 
 // The ring from the caller's delay line (null: zeros), both copies.
@@ -72,6 +79,8 @@ QspStatus init(Qsp32u id, S** ppState, const Qsp32f* pTaps, int tapsLen, const D
 {
     if (QspStatus s = check::pointers(ppState, pBuffer)) return s;
     if (QspStatus s = sizeAndIndex(tapsLen, dlyIndex)) return s;
+    int size;  // a state too large to size is refused as its size query refuses it
+    if (QspStatus s = stateBytes(tapsLen, &size)) return s;
     Header* h = alignUp64(pBuffer);
     h->id = id;
     h->taps = tapsLen;

@@ -30,6 +30,8 @@ QspStatus init(Qsp32u id, S** ppState, const T* pTaps, const int* pPos, int nzTa
     if (QspStatus s = check::pointers(ppState, pTaps, pPos, pBuffer)) return s;
     if (nzTapsLen < 1) return qspStsBadTapCount;
     if (!sparse::ascending(pPos, nzTapsLen, 0)) return qspStsBadArgument;
+    int size;  // a record too large to size is refused as its size query refuses it
+    if (QspStatus s = sparse::stateSize<T>(nzTapsLen, pPos[nzTapsLen - 1], 0, &size)) return s;
     *ppState = reinterpret_cast<S*>(sparse::build<T>(id, pBuffer, pTaps, pPos, nzTapsLen, 0, pDlyLine));
     return qspStsOk;
 }

@@ -28,6 +28,9 @@ QspStatus init(Qsp32u id, S** ppState, const Qsp32f* pTaps, const int* pPos, int
     if (QspStatus s = check::pointers(ppState, pTaps, pPos, pBuffer)) return s;
     if (nz1 < 1 || nz2 < 0) return qspStsBadTapCount;
     if (!sparse::ascending(pPos, nz1, 0) || !sparse::ascending(pPos + nz1, nz2, 1)) return qspStsBadArgument;
+    int size;  // a record too large to size is refused as its size query refuses it
+    if (QspStatus s = sparse::stateSize<Qsp32f>(Qsp64s(nz1) + nz2, pPos[nz1 - 1], nz2 ? pPos[nz1 + nz2 - 1] : 0, &size))
+        return s;
     *ppState = reinterpret_cast<S*>(sparse::build<Qsp32f>(id, pBuffer, pTaps, pPos, nz1, nz2, pDlyLine));
     return qspStsOk;
 }

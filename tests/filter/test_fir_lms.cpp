@@ -233,6 +233,12 @@ TEST(FIRLMS, StatusesInOrderAndNothingWritten)
     EXPECT_EQ(qspsFIRLMSInit_32f(&st, taps, 0, nullptr, 9, nullptr), qspStsNullPtr);
     EXPECT_EQ(qspsFIRLMSInit_32f(&st, taps, 0, nullptr, 9, mem.data()), qspStsBadTapCount);
     EXPECT_EQ(qspsFIRLMSInit_32f(&st, taps, 4, nullptr, 4, mem.data()), qspStsBadDelayIndex);
+    // A state too large to size: the query and Init refuse it alike.
+    EXPECT_EQ(qspsFIRLMSGetStateSize_32f(0x7FFFFFFF, 0, &size), qspStsOverflow);
+    EXPECT_EQ(qspsFIRLMSInit_32f(&st, taps, 0x7FFFFFFF, nullptr, 0, mem.data()), qspStsOverflow);
+    EXPECT_EQ(qspsFIRLMSInit32f_16s(reinterpret_cast<QspsFIRLMSState32f_16s**>(&st), taps, 0x7FFFFFFF, nullptr, 0,
+                                    mem.data()),
+              qspStsOverflow);
     EXPECT_TRUE(mem.untouched());
     EXPECT_EQ(st, nullptr);
     ASSERT_EQ(qspsFIRLMSInit_32f(&st, taps, 4, nullptr, 3, mem.data()), qspStsOk);

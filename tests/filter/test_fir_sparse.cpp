@@ -230,6 +230,7 @@ TYPED_TEST(FIRSparseTyped, StatusesInOrderAndNothingWritten)
     EXPECT_EQ(A::size(1, -1, &size), qspStsBadFilterOrder);
     EXPECT_EQ(size, -1);
     ASSERT_EQ(A::size(3, 2, &size), qspStsOk);
+    const int small = size;
 
     const std::vector<typename A::Tap> t = randomVector<typename A::Tap>(3);
     const int good[3] = {0, 1, 2}, unsorted[3] = {0, 2, 1}, negative[3] = {-1, 1, 2}, repeated[3] = {0, 2, 2};
@@ -244,8 +245,12 @@ TYPED_TEST(FIRSparseTyped, StatusesInOrderAndNothingWritten)
     EXPECT_EQ(A::init(&st, t.data(), unsorted, 3, nullptr, mem.data()), qspStsBadArgument);
     EXPECT_EQ(A::init(&st, t.data(), negative, 3, nullptr, mem.data()), qspStsBadArgument);
     EXPECT_EQ(A::init(&st, t.data(), repeated, 3, nullptr, mem.data()), qspStsBadArgument);
+    const int far[1] = {0x7FFFFFF0};  // a state too large to size
+    EXPECT_EQ(A::size(1, far[0], &size), qspStsOverflow);
+    EXPECT_EQ(A::init(&st, t.data(), far, 1, nullptr, mem.data()), qspStsOverflow);
     EXPECT_TRUE(mem.untouched());
     EXPECT_EQ(st, nullptr);
+    EXPECT_EQ(size, small);
     ASSERT_EQ(A::init(&st, t.data(), good, 3, nullptr, mem.data()), qspStsOk);
     EXPECT_TRUE(mem.guardsIntact());
 

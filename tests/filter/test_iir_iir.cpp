@@ -242,6 +242,8 @@ TYPED_TEST(IIRIIRTyped, StatusesInOrderAndNothingWritten)
     EXPECT_EQ(A::size(0, &size), qspStsBadFilterOrder);
     EXPECT_EQ(A::size(-4, &size), qspStsBadFilterOrder);
     EXPECT_EQ(size, -1);
+    EXPECT_EQ(A::size(0x7FFFFFF, &size), qspStsOverflow);
+    EXPECT_EQ(size, -1);
     ASSERT_EQ(A::size(2, &size), qspStsOk);
 
     const std::vector<S> taps = {S(1), S(2), S(1), S(4), S(-2.4), S(0.72)};

@@ -233,6 +233,9 @@ TEST(IIRSparse, StatusesInOrderAndNothingWritten)
     EXPECT_EQ(A32f::init(&st, t, badFF, 2, 1, nullptr, mem.data()), qspStsBadArgument);
     EXPECT_EQ(A32f::init(&st, t, negFF, 2, 1, nullptr, mem.data()), qspStsBadArgument);
     EXPECT_EQ(A32f::init(&st, t, badFB, 2, 1, nullptr, mem.data()), qspStsBadArgument);  // feedback at 0
+    const int far[3] = {0, 2, 0x7FFFFFF0};  // a state too large to size
+    EXPECT_EQ(A32f::size(2, 1, 2, far[2], &sz), qspStsOverflow);
+    EXPECT_EQ(A32f::init(&st, t, far, 2, 1, nullptr, mem.data()), qspStsOverflow);
     EXPECT_TRUE(mem.untouched());
     EXPECT_EQ(st, nullptr);
     ASSERT_EQ(A32f::init(&st, t, good, 2, 1, nullptr, mem.data()), qspStsOk);
