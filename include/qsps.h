@@ -2627,7 +2627,8 @@ QspStatus qspsFilterMedian_32f_I(Qsp32f* pSrcDst, int len, int maskSize, const Q
  * 32f_16s: 16-bit inputs, references, outputs and delay line, single-
  * precision taps and arithmetic; pDst receives y rounded to nearest (ties
  * to even) and saturated, the error uses the unrounded y.
- * Size: GetStateSize(tapsLen, dlyIndex) bytes, any alignment.
+ * Size: GetStateSize(tapsLen, dlyIndex) bytes, any alignment; a state whose
+ * size does not fit in an int gives qspStsOverflow there and at Init.
  *     int size; qspsFIRLMSGetStateSize_32f(32, 0, &size);
  *     QspsFIRLMSState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
  *     qspsFIRLMSInit_32f(&st, NULL, 32, NULL, 0, mem);
@@ -2709,9 +2710,11 @@ QspStatus qspsIIRIIRSetDlyLine64f_32f(QspsIIRState64f_32f* pState, const Qsp64f*
  * line may be null: zeros), nzTapsLen < 1 qspStsBadTapCount, positions;
  * filtering: pointers, len < 1 qspStsBadSize, a foreign state
  * qspStsBadRecord. The state must be sized with an order of at least the
- * largest position. Delay line: the last `order` inputs, oldest first (the last one
- * is x[-1]), kept in the state (one state per stream); GetDlyLine reads and
- * SetDlyLine (null: zeros) replaces it; order 0 has none. pDst may be pSrc.
+ * largest position; a state whose size does not fit in an int gives
+ * qspStsOverflow at GetStateSize and Init. Delay line: the last `order`
+ * inputs, oldest first (the last one is x[-1]), kept in the state (one
+ * state per stream); GetDlyLine reads and SetDlyLine (null: zeros) replaces
+ * it; order 0 has none. pDst may be pSrc.
  * 32f_16s: 16-bit data and delay line, 32f taps and arithmetic, results
  * times 2^-scaleFactor, rounded to nearest even and saturated.
  *     int pos[3] = {0, 40, 1000}; Qsp32f t[3] = {1.0f, 0.5f, 0.25f};
@@ -2755,7 +2758,9 @@ QspStatus qspsFIRSparseSetDlyLine32f_16s(QspsFIRSparseState32f_16s* pState, cons
  * filtering: pointers, len < 1 qspStsBadSize, a foreign state
  * qspStsBadRecord. Delay line at Init (null: zeros): the last order1 inputs
  * then the last order2 outputs, each oldest first; it lives in the state
- * (one state per stream). 32f_16s: 16-bit data, 32f taps and arithmetic;
+ * (one state per stream); a state whose size does not fit in an int gives
+ * qspStsOverflow at GetStateSize and Init. 32f_16s: 16-bit data, 32f taps
+ * and arithmetic;
  * the output history keeps the single-precision results before scaling (a
  * 16-bit delay line gives its values), pDst receives them times
  * 2^-scaleFactor, rounded to nearest even and saturated.
