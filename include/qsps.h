@@ -2018,6 +2018,215 @@ QspStatus qspsFIRSR32f_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, Qs
 QspStatus qspsFIRSR_16s(const Qsp16s* pSrc, Qsp16s* pDst, int numIters, QspsFIRSpec_32f* pSpec, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuf);
 QspStatus qspsFIRSR_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int numIters, QspsFIRSpec_32fc* pSpec, const Qsp16sc* pDlySrc, Qsp16sc* pDlyDst, Qsp8u* pBuf);
 
+/* IIRGetStateSize --------------------------------------------------------- */
+/*
+ * Bytes of caller memory that an IIR state of the kind in the name needs, 32
+ * bytes of alignment slack included: for order N (AR shape: N+1 feed-forward
+ * and N+1 feedback taps) or numBq second-order sections (BiQuad shapes:
+ * BiQuad, and BiQuad_DF1 in direct form 1). The precision before the
+ * underscore (32f, 32fc, 64f, 64fc; none: that of the samples) is that of
+ * the taps, the delay line and the arithmetic; the code after it names the
+ * samples (32f_16s: a single-precision state for 16s samples). For
+ * qspsIIRGetStateSize_32f the size is ((4N+19) & ~15) + ((8N+19) & ~15) +
+ * 4760 + 16(2N+1); every other kind reports what its initialiser uses.
+ * Checks: null pBufferSize gives qspStsNullPtr; order or numBq below 1
+ * qspStsBadFilterOrder; a size that does not fit an int qspStsOverflow.
+ * Nothing is written on error. Thread-safe.
+ */
+QspStatus qspsIIRGetStateSize_32f(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_32f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_32fc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_32fc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32f_16s(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32f_BiQuad_16s(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32fc_16sc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize32fc_BiQuad_16sc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_64f(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_64f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_64fc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_64fc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_32f(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_32f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_32fc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_BiQuad_32fc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_32s(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_32s(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_32sc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_BiQuad_32sc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_16s(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_16s(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_16sc(int order, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64fc_BiQuad_16sc(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize_BiQuad_DF1_32f(int numBq, int* pBufferSize);
+QspStatus qspsIIRGetStateSize64f_BiQuad_DF1_32s(int numBq, int* pBufferSize);
+
+/* IIRInit ----------------------------------------------------------------- */
+/*
+ * Builds an IIR state in the caller's buffer pBuf, which holds at least the
+ * size IIRGetStateSize reports for the same kind and order and needs no
+ * particular alignment: the state starts at the first 32-byte boundary in
+ * pBuf, and that address goes to *ppState. Taps: AR shape of order N, the
+ * 2N+2 values b0..bN then a0..aN; BiQuad shapes, numBq sections of six values
+ * b0, b1, b2, a0, a1, a2. The state keeps the taps normalised by a0 (times r =
+ * 1/a0 in the state's precision; each section by its own a0). pDlyLine is
+ * the initial delay line (IIRDlyLine describes it: N values, 2 per section, 4
+ * per direct-form-1 section; 32-bit integer samples for BiQuad_DF1_32s), or
+ * null for zeros. Taps and delay line are copied: the caller's arrays may be
+ * reused at once. Checks: null ppState, pTaps or pBuf gives qspStsNullPtr;
+ * order or numBq below 1 qspStsBadFilterOrder (a state whose size does not
+ * fit an int qspStsOverflow), with nothing written. Then the header and the
+ * delay line are written, and a0 = 0 gives qspStsZeroDivisor, as does, for
+ * the BiQuad shapes, a section whose b0 is 0 (sections in turn; a complex
+ * tap is zero when both parts are; -0 is zero). After any error *ppState is
+ * unchanged and the buffer holds no usable state. Init writes nothing
+ * outside the reported size.
+ */
+QspStatus qspsIIRInit_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int order, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int numBq, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_32fc(QspsIIRState_32fc** ppState, const Qsp32fc* pTaps, int order, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_32fc(QspsIIRState_32fc** ppState, const Qsp32fc* pTaps, int numBq, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32f_16s(QspsIIRState32f_16s** ppState, const Qsp32f* pTaps, int order, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32f_BiQuad_16s(QspsIIRState32f_16s** ppState, const Qsp32f* pTaps, int numBq, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32fc_16sc(QspsIIRState32fc_16sc** ppState, const Qsp32fc* pTaps, int order, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit32fc_BiQuad_16sc(QspsIIRState32fc_16sc** ppState, const Qsp32fc* pTaps, int numBq, const Qsp32fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_64f(QspsIIRState_64f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_64f(QspsIIRState_64f** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_64fc(QspsIIRState_64fc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_64fc(QspsIIRState_64fc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_32f(QspsIIRState64f_32f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_32f(QspsIIRState64f_32f** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_32fc(QspsIIRState64fc_32fc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_BiQuad_32fc(QspsIIRState64fc_32fc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_32s(QspsIIRState64f_32s** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_32s(QspsIIRState64f_32s** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_32sc(QspsIIRState64fc_32sc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_BiQuad_32sc(QspsIIRState64fc_32sc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_16s(QspsIIRState64f_16s** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_16s(QspsIIRState64f_16s** ppState, const Qsp64f* pTaps, int numBq, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_16sc(QspsIIRState64fc_16sc** ppState, const Qsp64fc* pTaps, int order, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64fc_BiQuad_16sc(QspsIIRState64fc_16sc** ppState, const Qsp64fc* pTaps, int numBq, const Qsp64fc* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit_BiQuad_DF1_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int numBq, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRInit64f_BiQuad_DF1_32s(QspsIIRState64f_32s** ppState, const Qsp64f* pTaps, int numBq, const Qsp32s* pDlyLine, Qsp8u* pBuf);
+
+/* IIR --------------------------------------------------------------------- */
+/*
+ * Filters len samples through an IIR state. With the taps normalised by a0:
+ * y[n] = b0 x[n] + b1 x[n-1] + ... + bN x[n-N] - a1 y[n-1] - ... - aN y[n-N];
+ * a BiQuad state runs its sections in turn, each on the previous one's
+ * output. A form serves the AR, BiQuad and (32f, 64f_32s) direct-form-1
+ * states of its types. The state's delay line holds the history, so
+ * consecutive calls continue one signal: calls on consecutive pieces give
+ * the result of one call on the joined signal, to rounding (the kernels solve
+ * the recursion for a register of samples, AR filters for blocks of 1024, at
+ * a time). The arithmetic has the state's precision; samples of another type
+ * are converted exactly on the way in. 64f_32f and 64fc_32fc round the
+ * results to single precision. The integer forms (Sfs) deliver the result
+ * times 2^-scaleFactor, rounded to nearest with ties to even and saturated
+ * (NaN gives 0); every scale factor is accepted. _I forms filter in place;
+ * otherwise pSrc and pDst are one array or do not overlap. _P, _IP, _PSfs
+ * and _IPSfs filter nChannels channels of len samples each, channel c from
+ * ppSrc[c] to ppDst[c] (_IP: in place in ppSrcDst[c]) through its own state
+ * ppState[c]; kinds and orders may differ between channels, states and
+ * destinations may not be shared. Checks: null pState, pSrc or pDst (channel
+ * forms: ppSrc, ppDst or ppState) gives qspStsNullPtr; len below 1
+ * qspStsBadSize; channel forms then nChannels below 1 qspStsBadSize and a
+ * null channel pointer qspStsNullPtr; then a state of another kind
+ * qspStsBadRecord. All channels are checked before any is filtered; on error
+ * nothing is written. Threads: every call writes its state, so a state
+ * serves one signal at a time; calls on different states may run at once.
+ * Example, a cascade of two sections over a stream of blocks:
+ *     Qsp32f taps[12] = {b0, b1, b2, 1, a1, a2,   c0, c1, c2, 1, e1, e2};
+ *     int size;
+ *     qspsIIRGetStateSize_BiQuad_32f(2, &size);
+ *     Qsp8u* buf = qspsMalloc_8u(size);
+ *     QspsIIRState_32f* st;
+ *     if (buf && qspsIIRInit_BiQuad_32f(&st, taps, 2, NULL, buf) == qspStsOk)
+ *         while ((n = read_block(x)) > 0) {      // n samples in x
+ *             qspsIIR_32f_I(x, n, st);             // continues the signal
+ *             write_block(x, n);
+ *         }
+ *     qspsFree(buf);                               // no release call
+ */
+QspStatus qspsIIR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIR_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIR_32f_P(const Qsp32f** ppSrc, Qsp32f** ppDst, int len, int nChannels, QspsIIRState_32f** ppState);
+QspStatus qspsIIR_32f_IP(Qsp32f** ppSrcDst, int len, int nChannels, QspsIIRState_32f** ppState);
+QspStatus qspsIIR_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, QspsIIRState_32fc* pState);
+QspStatus qspsIIR_32fc_I(Qsp32fc* pSrcDst, int len, QspsIIRState_32fc* pState);
+QspStatus qspsIIR32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsIIRState32f_16s* pState, int scaleFactor);
+QspStatus qspsIIR32f_16s_ISfs(Qsp16s* pSrcDst, int len, QspsIIRState32f_16s* pState, int scaleFactor);
+QspStatus qspsIIR32fc_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, QspsIIRState32fc_16sc* pState, int scaleFactor);
+QspStatus qspsIIR32fc_16sc_ISfs(Qsp16sc* pSrcDst, int len, QspsIIRState32fc_16sc* pState, int scaleFactor);
+QspStatus qspsIIR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIR_64f_I(Qsp64f* pSrcDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIR_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, QspsIIRState_64fc* pState);
+QspStatus qspsIIR_64fc_I(Qsp64fc* pSrcDst, int len, QspsIIRState_64fc* pState);
+QspStatus qspsIIR64f_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIR64f_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIR64fc_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, QspsIIRState64fc_32fc* pState);
+QspStatus qspsIIR64fc_32fc_I(Qsp32fc* pSrcDst, int len, QspsIIRState64fc_32fc* pState);
+QspStatus qspsIIR64f_32s_Sfs(const Qsp32s* pSrc, Qsp32s* pDst, int len, QspsIIRState64f_32s* pState, int scaleFactor);
+QspStatus qspsIIR64f_32s_ISfs(Qsp32s* pSrcDst, int len, QspsIIRState64f_32s* pState, int scaleFactor);
+QspStatus qspsIIR64f_32s_PSfs(const Qsp32s** ppSrc, Qsp32s** ppDst, int len, int nChannels, QspsIIRState64f_32s** ppState, int scaleFactor);
+QspStatus qspsIIR64f_32s_IPSfs(Qsp32s** ppSrcDst, int len, int nChannels, QspsIIRState64f_32s** ppState, int scaleFactor);
+QspStatus qspsIIR64fc_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc* pDst, int len, QspsIIRState64fc_32sc* pState, int scaleFactor);
+QspStatus qspsIIR64fc_32sc_ISfs(Qsp32sc* pSrcDst, int len, QspsIIRState64fc_32sc* pState, int scaleFactor);
+QspStatus qspsIIR64f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsIIRState64f_16s* pState, int scaleFactor);
+QspStatus qspsIIR64f_16s_ISfs(Qsp16s* pSrcDst, int len, QspsIIRState64f_16s* pState, int scaleFactor);
+QspStatus qspsIIR64fc_16sc_Sfs(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, QspsIIRState64fc_16sc* pState, int scaleFactor);
+QspStatus qspsIIR64fc_16sc_ISfs(Qsp16sc* pSrcDst, int len, QspsIIRState64fc_16sc* pState, int scaleFactor);
+
+/* IIRDlyLine -------------------------------------------------------------- */
+/*
+ * Reads (Get) or replaces (Set) the delay line of an IIR state: the history
+ * that joins one filtering call to the next. AR states hold N values d[0..N-1]
+ * of the transposed direct form, the state before input x[n]: y[n] = b0 x[n]
+ * + d[0], then d[k] = d[k+1] + b(k+1) x[n] - a(k+1) y[n] (d[N] = 0), with the
+ * normalised taps. BiQuad states hold s1, s2 of each section in the same form
+ * (y = b0 x + s1, s1 = b1 x - a1 y + s2, s2 = b2 x - a2 y), section after
+ * section. Direct-form-1 states hold x[n-1], x[n-2], y[n-1], y[n-2] of each
+ * section (its last two inputs and outputs), section after section. Values
+ * in the state's precision; the direct-form-1 state for 32s samples
+ * exchanges them as 32-bit integers (Set converts exactly; Get rounds to
+ * nearest with ties to even and saturates). After Init the delay line holds
+ * the values Init was given (or zeros); after a call, the history of the
+ * signal so far. Set with a null pDlyLine clears it, as Init does. Get and
+ * Set are inverse: Set then Get returns the values set, Get then Set leaves
+ * the state as it was (the 32s direct form 1 to the rounding of Get). Each
+ * function accepts the states of the filtering forms of its suffix (_32f:
+ * AR, BiQuad and direct-form-1 states; 64f_32s: AR and BiQuad; 64f_DF1_32s:
+ * direct form 1). Checks: null pState (Get: or pDlyLine) gives
+ * qspStsNullPtr, then a state of another kind qspStsBadRecord; nothing is
+ * written on error. Get only reads the state; Set writes it, so no other
+ * call may use that state meanwhile.
+ */
+QspStatus qspsIIRGetDlyLine_64fc(const QspsIIRState_64fc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine_64f(const QspsIIRState_64f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine_32fc(const QspsIIRState_32fc* pState, Qsp32fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine_32f(const QspsIIRState_32f* pState, Qsp32f* pDlyLine);
+QspStatus qspsIIRGetDlyLine64fc_32sc(const QspsIIRState64fc_32sc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine64fc_32fc(const QspsIIRState64fc_32fc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine64fc_16sc(const QspsIIRState64fc_16sc* pState, Qsp64fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_DF1_32s(const QspsIIRState64f_32s* pState, Qsp32s* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_32s(const QspsIIRState64f_32s* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_32f(const QspsIIRState64f_32f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine64f_16s(const QspsIIRState64f_16s* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRGetDlyLine32fc_16sc(const QspsIIRState32fc_16sc* pState, Qsp32fc* pDlyLine);
+QspStatus qspsIIRGetDlyLine32f_16s(const QspsIIRState32f_16s* pState, Qsp32f* pDlyLine);
+QspStatus qspsIIRSetDlyLine_64fc(QspsIIRState_64fc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine_64f(QspsIIRState_64f* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine_32fc(QspsIIRState_32fc* pState, const Qsp32fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine_32f(QspsIIRState_32f* pState, const Qsp32f* pDlyLine);
+QspStatus qspsIIRSetDlyLine64fc_32sc(QspsIIRState64fc_32sc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine64fc_32fc(QspsIIRState64fc_32fc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine64fc_16sc(QspsIIRState64fc_16sc* pState, const Qsp64fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_DF1_32s(QspsIIRState64f_32s* pState, const Qsp32s* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_32s(QspsIIRState64f_32s* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_32f(QspsIIRState64f_32f* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine64f_16s(QspsIIRState64f_16s* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRSetDlyLine32fc_16sc(QspsIIRState32fc_16sc* pState, const Qsp32fc* pDlyLine);
+QspStatus qspsIIRSetDlyLine32f_16s(QspsIIRState32f_16s* pState, const Qsp32f* pDlyLine);
+
 /* WinBartlett ------------------------------------------------------------- */
 /*
  * Bartlett (triangle) window: pDst[n] = pSrc[n] w(n), w(n) = 2n/(N-1) for
@@ -2323,6 +2532,418 @@ QspStatus qspsTriangle_32f(Qsp32f* pDst, int len, Qsp32f magn, Qsp32f rFreq, Qsp
 QspStatus qspsTriangle_32fc(Qsp32fc* pDst, int len, Qsp32f magn, Qsp32f rFreq, Qsp32f asym, Qsp32f* pPhase);
 QspStatus qspsTriangle_64f(Qsp64f* pDst, int len, Qsp64f magn, Qsp64f rFreq, Qsp64f asym, Qsp64f* pPhase);
 QspStatus qspsTriangle_64fc(Qsp64fc* pDst, int len, Qsp64f magn, Qsp64f rFreq, Qsp64f asym, Qsp64f* pPhase);
+
+/* FIRMR ------------------------------------------------------------------- */
+/*
+ * Multi-rate FIR filter: the input is upsampled by U = upFactor, filtered by
+ * the N = tapsLen taps h and downsampled by D = downFactor,
+ *     u[mU + upPhase] = x[m] (zeros between),
+ *     y[n] = sum over j < N of h[j] u[nD + downPhase - j],
+ * computed in polyphase form: without the inserted zeros and without the
+ * outputs that are dropped. Every call takes numIters blocks of D inputs and
+ * writes U outputs per block: pSrc holds numIters*D samples, pDst receives
+ * numIters*U. The phases are fixed by Init (0 <= upPhase < U, 0 <= downPhase
+ * < D); with U = D = 1 the filter is FIRSR's direct form, bit for bit.
+ * Delay line: H = ceil((N-1)/U) input samples, oldest first, pDlySrc[H-1] the
+ * one just before pSrc[0] (x[-j] = pDlySrc[H-j]); a null pDlySrc means zeros.
+ * pDlyDst, when not null, receives the last H samples of delay line and input
+ * (for numIters*D >= H: pSrc[numIters*D - H ..]). With pDlySrc == pDlyDst
+ * consecutive calls give, bit for bit, the result of one call on the joined
+ * input. Latency: the taps' own delay, in output samples of the upsampled
+ * rate divided by D. pDst may equal pSrc (in place) or pDlySrc; the delay
+ * lines may be the same array; no other overlap.
+ * Arithmetic: each output sums its taps' products from the first tap on in
+ * the precision of the data (the direct kernels of FIRSR); with D > 1 the
+ * taps of an output are summed in D interleaved groups that are then added.
+ * 32f_32fc: real taps on complex data. 16s, 16sc: the 32f or 32fc record on
+ * 16-bit data, computed in single precision, rounded to nearest (ties to
+ * even) and saturated; their delay lines hold 16-bit samples.
+ * Sizes: FIRMRGetSize(tapsLen, U, D, taps type qsp32f/qsp64f/qsp32fc/qsp64fc)
+ * (and FIRMRGetSize32f_32fc) give the record's and the work buffer's bytes;
+ * neither needs alignment. Init builds the record at the first 64-byte
+ * boundary of pSpec; it begins with an identifier of its type, which every
+ * filtering call checks (qspStsBadRecord). The record is read-only after Init
+ * and may serve several streams and threads, each with its own delay lines
+ * and work buffer.
+ * Checks: GetSize in parameter order: tapsLen < 1 qspStsBadTapCount, a factor
+ * < 1 qspStsBadFactor, another type qspStsBadDataType, a null pointer
+ * qspStsNullPtr, sizes above 2^31-1 bytes qspStsOverflow. Init: tapsLen,
+ * then null pTaps or pSpec, then upFactor, upPhase, downFactor, downPhase (a
+ * phase not below its factor, compared unsigned, qspStsBadPhase). Filtering: a
+ * null pSpec, then null pSrc, pDst or pBuf (qspStsNullPtr), numIters < 1
+ * (qspStsBadSize), then the record's identifier. Nothing is written on an
+ * error.
+ *     qspsFIRMRGetSize(64, 3, 2, qsp32f, &specSize, &bufSize);
+ *     qspsFIRMRInit_32f(taps, 64, 3, 0, 2, 0, (QspsFIRMRSpec_32f*)spec);
+ *     Qsp32f dly[21] = {0};                           // ceil(63 / 3)
+ *     qspsFIRMR_32f(x, y, 100, spec, dly, dly, buf);  // 200 in, 300 out
+ */
+QspStatus qspsFIRMRGetSize(int tapsLen, int upFactor, int downFactor, QspDataType tapsType, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRMRGetSize32f_32fc(int tapsLen, int upFactor, int downFactor, int* pSpecSize, int* pBufSize);
+QspStatus qspsFIRMRInit_32f(const Qsp32f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_32f* pSpec);
+QspStatus qspsFIRMRInit_64f(const Qsp64f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_64f* pSpec);
+QspStatus qspsFIRMRInit_32fc(const Qsp32fc* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_32fc* pSpec);
+QspStatus qspsFIRMRInit_64fc(const Qsp64fc* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec_64fc* pSpec);
+QspStatus qspsFIRMRInit32f_32fc(const Qsp32f* pTaps, int tapsLen, int upFactor, int upPhase, int downFactor, int downPhase, QspsFIRMRSpec32f_32fc* pSpec);
+QspStatus qspsFIRMR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int numIters, QspsFIRMRSpec_32f* pSpec, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int numIters, QspsFIRMRSpec_64f* pSpec, const Qsp64f* pDlySrc, Qsp64f* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRMRSpec_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int numIters, QspsFIRMRSpec_64fc* pSpec, const Qsp64fc* pDlySrc, Qsp64fc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_16s(const Qsp16s* pSrc, Qsp16s* pDst, int numIters, QspsFIRMRSpec_32f* pSpec, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int numIters, QspsFIRMRSpec_32fc* pSpec, const Qsp16sc* pDlySrc, Qsp16sc* pDlyDst, Qsp8u* pBuf);
+QspStatus qspsFIRMR32f_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int numIters, QspsFIRMRSpec32f_32fc* pSpec, const Qsp32fc* pDlySrc, Qsp32fc* pDlyDst, Qsp8u* pBuf);
+
+/* FIRGen ------------------------------------------------------------------ */
+/*
+ * FIR filter design by the window method: N = tapsLen linear-phase taps,
+ * symmetric about M = (N-1)/2 (bit for bit), for relative frequencies
+ * (fractions of the sampling rate) in (0, 0.5):
+ *     lowpass   h[n] = w[n] sin(2 pi f k) / (pi k),   k = n - M (2f at k = 0)
+ *     highpass  h[n] = w[n] (d[n] - lowpass(f)),      d the unit sample at M
+ *     bandpass  h[n] = w[n] (lowpass(fHigh) - lowpass(fLow))
+ *     bandstop  h[n] = w[n] (d[n] - bandpass(fLow, fHigh))
+ * w is the library's window of length N chosen by winType: qspWinBartlett
+ * (WinBartlett), qspWinBlackman (WinBlackmanStd), qspWinHamming (WinHamming),
+ * qspWinHann (WinHann) or qspWinRect (no window). doNormal non-zero scales the
+ * taps so that the amplitude is exactly 1 at DC (lowpass, bandstop), at half
+ * the sampling rate (highpass) or at (fLow + fHigh)/2 (bandpass); 0 leaves
+ * them as above. The taps are computed in double precision in pBuffer (any
+ * alignment, FIRGenGetBufferSize bytes for tapsLen) and rounded once to the
+ * destination type; the 32f forms take their frequencies as floats.
+ * Checks, in order: a null pointer gives qspStsNullPtr; tapsLen below 1
+ * qspStsBadTapCount, below 3 qspStsBadSize, even for a highpass or bandstop
+ * (a symmetric filter of even length has a zero at half the sampling rate)
+ * qspStsBadSize; a frequency outside (0, 0.5), NaN, or fLow not below fHigh
+ * qspStsBadRelFreq; another winType qspStsBadArgument. Nothing is written on
+ * an error. Thread-safe with a buffer per call.
+ *     Qsp32f taps[101];
+ *     qspsFIRGenGetBufferSize(101, &size);        // then allocate buf
+ *     qspsFIRGenLowpass_32f(taps, 101, 0.1f, qspWinHamming, 1, buf);
+ */
+QspStatus qspsFIRGenGetBufferSize(int tapsLen, int* pBufferSize);
+QspStatus qspsFIRGenLowpass_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenLowpass_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenHighpass_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenHighpass_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandpass_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rLowFreq, Qsp32f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandpass_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rLowFreq, Qsp64f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandstop_32f(Qsp32f* pTaps, int tapsLen, Qsp32f rLowFreq, Qsp32f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+QspStatus qspsFIRGenBandstop_64f(Qsp64f* pTaps, int tapsLen, Qsp64f rLowFreq, Qsp64f rHighFreq, QspWinType winType, int doNormal, Qsp8u* pBuffer);
+
+/* IIRGen ------------------------------------------------------------------ */
+/*
+ * IIR filter design: Butterworth or Chebyshev type I (filterType
+ * qspIIRButterworth, qspIIRChebyshev1) lowpass or highpass of order N = 1..18,
+ * by the bilinear transform of the analog prototype with the cut-off
+ * pre-warped, W = tan(pi rFreq). Magnitude at the relative frequency f, with
+ * v = tan(pi f)/W (lowpass) or W/tan(pi f) (highpass):
+ *     Butterworth  |H|^2 = 1 / (1 + v^(2N)): rFreq is the -3 dB point;
+ *     Chebyshev I  |H|^2 = 1 / (1 + e^2 T_N(v)^2), e^2 = 10^(ripple/10) - 1:
+ *                  the pass band ripples between 0 and -ripple dB and rFreq
+ *                  is where it leaves that band.
+ * The result is a cascade of (N+1)/2 biquad sections, ready for
+ * IIRInit_BiQuad_64f (numBq = (N+1)/2): pTaps receives 6 values per section,
+ *     b0 b1 b2 a0 a1 a2,  H_s(z) = (b0 + b1 z^-1 + b2 z^-2) / (1 + a1 z^-1 + a2 z^-2),
+ * a0 = 1 and the numerator g (1 + z^-1)^2 (lowpass) or g (1 - z^-1)^2
+ * (highpass). For odd N the first section is of first order (b2 = a2 = 0),
+ * then come the pole pairs from the lowest to the highest quality factor.
+ * Every section has gain 1 at the centre of the pass band (DC for lowpass,
+ * half the sampling rate for highpass); for Chebyshev of even order that
+ * point is a ripple trough and the first section carries 1/sqrt(1 + e^2).
+ * Sections are computed in extended precision and rounded once: the response
+ * keeps nearly full double precision at every order and cut-off, also where
+ * the multiplied-out polynomial of a high order would not (poles crowding at
+ * z = 1 or -1). pTaps holds 6*((N+1)/2) values.
+ * Checks, in order: a null pTaps or pBuffer gives qspStsNullPtr; an order
+ * outside 1..18 qspStsBadFilterOrder; rFreq outside (0, 0.5) or NaN
+ * qspStsBadRelFreq; another filterType qspStsBadArgument; for Chebyshev a
+ * ripple (dB) outside (0, 100] qspStsBadArgument (Butterworth ignores it).
+ * Nothing is written on an error. pBuffer (any alignment) has the size
+ * IIRGenGetBufferSize reports for the order. Thread-safe with a buffer per
+ * call.
+ *     Qsp64f taps[6 * 3];                           // order 5: 3 sections
+ *     qspsIIRGenGetBufferSize(5, &size);              // then allocate buf
+ *     qspsIIRGenLowpass_64f(taps, 5, 0.1, 0.5, qspIIRChebyshev1, buf);
+ *     qspsIIRInit_BiQuad_64f(&state, taps, 3, NULL, stateMem);
+ */
+QspStatus qspsIIRGenGetBufferSize(int order, int* pBufferSize);
+QspStatus qspsIIRGenLowpass_64f(Qsp64f* pTaps, int order, Qsp64f rFreq, Qsp64f ripple, QspIIRFilterType filterType, Qsp8u* pBuffer);
+QspStatus qspsIIRGenHighpass_64f(Qsp64f* pTaps, int order, Qsp64f rFreq, Qsp64f ripple, QspIIRFilterType filterType, Qsp8u* pBuffer);
+
+/* FilterMedian ------------------------------------------------------------ */
+/*
+ * Running median of the last maskSize inputs (maskSize odd):
+ *     pDst[i] = median of x[i - maskSize + 1], ..., x[i],
+ * where x[i] = pSrc[i] and the maskSize - 1 values before pSrc[0] come from
+ * the delay line: x[-j] = pDlySrc[maskSize - 1 - j] for j = 1 .. maskSize - 1
+ * (pDlySrc[0] the oldest). A null pDlySrc stands for pSrc[0] repeated, so
+ * the signal is extended to the left by its first value. The filter is
+ * causal: the median of a window is centred maskSize/2 samples before the
+ * output, which is the latency. pDlyDst, when not null, receives the last
+ * maskSize - 1 values of the delay line followed by the source, oldest
+ * first; pDlySrc == pDlyDst continues a stream, so consecutive calls give the
+ * result of one call on the joined source. maskSize 1 copies and uses no
+ * delay line.
+ * Order: values are compared as numbers; 32f values in the total order of
+ * their bit patterns, -NaN < -Inf < ... < -0 < +0 < ... < +Inf < +NaN, so
+ * every output is one of the inputs, bit for bit.
+ * The work buffer pBuffer (any alignment) has the size that
+ * FilterMedianGetBufferSize reports for the mask and the data type (qsp8u,
+ * qsp16s, qsp32s or qsp32f; another code gives qspStsBadDataType, a buffer
+ * above 2^31-1 bytes qspStsOverflow); nothing in it survives a call.
+ * Cost per output: masks up to 767 (8u), 383 (16s) or 191 (32s, 32f) keep a
+ * sorted window, maskSize/16, /8 or /4 register operations; longer masks a
+ * double heap, O(log maskSize).
+ * Checks: a null pSrc, pDst or pBuffer gives qspStsNullPtr; len < 1
+ * qspStsBadSize; an even or non-positive maskSize qspStsBadMaskSize; nothing
+ * is written then. _I filters in place; otherwise pDst must not overlap
+ * pSrc, and the delay lines must not overlap the data. Thread-safe with a
+ * work buffer per call.
+ *     int size;
+ *     qspsFilterMedianGetBufferSize(31, qsp32f, &size);
+ *     Qsp8u* buf = qspsMalloc_8u(size);
+ *     Qsp32f dly[30] = {0};
+ *     qspsFilterMedian_32f(x, y, n, 31, dly, dly, buf);        // first block
+ *     qspsFilterMedian_32f(x + n, y + n, n, 31, dly, dly, buf); // continues
+ */
+QspStatus qspsFilterMedianGetBufferSize(int maskSize, QspDataType dataType, int* pBufferSize);
+QspStatus qspsFilterMedian_8u(const Qsp8u* pSrc, Qsp8u* pDst, int len, int maskSize, const Qsp8u* pDlySrc, Qsp8u* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_8u_I(Qsp8u* pSrcDst, int len, int maskSize, const Qsp8u* pDlySrc, Qsp8u* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, int maskSize, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_16s_I(Qsp16s* pSrcDst, int len, int maskSize, const Qsp16s* pDlySrc, Qsp16s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, int maskSize, const Qsp32s* pDlySrc, Qsp32s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32s_I(Qsp32s* pSrcDst, int len, int maskSize, const Qsp32s* pDlySrc, Qsp32s* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int maskSize, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuffer);
+QspStatus qspsFilterMedian_32f_I(Qsp32f* pSrcDst, int len, int maskSize, const Qsp32f* pDlySrc, Qsp32f* pDlyDst, Qsp8u* pBuffer);
+
+/* FIRLMS ------------------------------------------------------------------ */
+/*
+ * Adaptive FIR filter by the least-mean-squares rule. For every input x[n]:
+ *     y[n] = sum over k < tapsLen of t[k] x[n-k],   pDst[n] = y[n],
+ *     e = pRef[n] - y[n],   then t[k] += mu e x[n-k] for every k,
+ * so the taps of sample n+1 have seen sample n. All arithmetic is single
+ * precision: y is a sum of eight interleaved partial sums (term k of the
+ * reversed taps in sum k mod 8) added pairwise, then the last tapsLen mod 8
+ * terms; each tap update is one multiply and one add. Checks: pointers
+ * (pSrc, pRef, pDst, pState), len < 1 gives qspStsBadSize, mu outside the
+ * open interval (0, 1) (NaN included) gives qspStsBadMu, a state of another
+ * kind gives qspStsBadRecord; nothing is written on error. pDst may be
+ * pSrc or pRef.
+ *
+ * Delay line: a ring of tapsLen samples with a current index dlyIndex
+ * (outside [0, tapsLen) gives qspStsBadDelayIndex): pDlyLine[(dlyIndex - k)
+ * mod tapsLen] is x[-k] for k = 1 .. tapsLen-1, and the element at
+ * dlyIndex is overwritten by the next input; each input advances the index
+ * by one (mod tapsLen). Init takes the taps (null: zeros) and the delay line
+ * (null: zeros); GetTaps reads the current taps in natural order (t[0]
+ * first), GetDlyLine the ring and its index, SetDlyLine replaces them (null:
+ * zeros). The state (its taps and ring) changes with every call: one state
+ * per stream, not shared between threads. Consecutive calls on the pieces
+ * of a stream give the bits of one call on the whole; latency 0.
+ * 32f_16s: 16-bit inputs, references, outputs and delay line, single-
+ * precision taps and arithmetic; pDst receives y rounded to nearest (ties
+ * to even) and saturated, the error uses the unrounded y.
+ * Size: GetStateSize(tapsLen, dlyIndex) bytes, any alignment; a state whose
+ * size does not fit in an int gives qspStsOverflow there and at Init.
+ *     int size; qspsFIRLMSGetStateSize_32f(32, 0, &size);
+ *     QspsFIRLMSState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsFIRLMSInit_32f(&st, NULL, 32, NULL, 0, mem);
+ *     qspsFIRLMS_32f(x, desired, y, len, 0.01f, st);
+ *     qspsFIRLMSGetTaps_32f(st, taps);
+ */
+QspStatus qspsFIRLMSGetStateSize_32f(int tapsLen, int dlyIndex, int* pBufferSize);
+QspStatus qspsFIRLMSInit_32f(QspsFIRLMSState_32f** ppState, const Qsp32f* pTaps, int tapsLen, const Qsp32f* pDlyLine, int dlyIndex, Qsp8u* pBuffer);
+QspStatus qspsFIRLMS_32f(const Qsp32f* pSrc, const Qsp32f* pRef, Qsp32f* pDst, int len, Qsp32f mu, QspsFIRLMSState_32f* pState);
+QspStatus qspsFIRLMSGetTaps_32f(const QspsFIRLMSState_32f* pState, Qsp32f* pOutTaps);
+QspStatus qspsFIRLMSGetDlyLine_32f(const QspsFIRLMSState_32f* pState, Qsp32f* pDlyLine, int* pDlyIndex);
+QspStatus qspsFIRLMSSetDlyLine_32f(QspsFIRLMSState_32f* pState, const Qsp32f* pDlyLine, int dlyIndex);
+QspStatus qspsFIRLMSGetStateSize32f_16s(int tapsLen, int dlyIndex, int* pBufferSize);
+QspStatus qspsFIRLMSInit32f_16s(QspsFIRLMSState32f_16s** ppState, const Qsp32f* pTaps, int tapsLen, const Qsp16s* pDlyLine, int dlyIndex, Qsp8u* pBuffer);
+QspStatus qspsFIRLMS32f_16s(const Qsp16s* pSrc, const Qsp16s* pRef, Qsp16s* pDst, int len, Qsp32f mu, QspsFIRLMSState32f_16s* pState);
+QspStatus qspsFIRLMSGetTaps32f_16s(const QspsFIRLMSState32f_16s* pState, Qsp32f* pOutTaps);
+QspStatus qspsFIRLMSGetDlyLine32f_16s(const QspsFIRLMSState32f_16s* pState, Qsp16s* pDlyLine, int* pDlyIndex);
+QspStatus qspsFIRLMSSetDlyLine32f_16s(QspsFIRLMSState32f_16s* pState, const Qsp16s* pDlyLine, int dlyIndex);
+
+/* IIRIIR ------------------------------------------------------------------ */
+/*
+ * Zero-phase IIR filtering: the block is filtered forward and then backward
+ * through the same AR filter of order N (taps as in IIRInit: b0 .. bN,
+ * a0 .. aN, a0 not zero, else qspStsZeroDivisor), so the magnitude response
+ * is |H|^2 and the phase is zero; no delay, no latency. The edges: the block
+ * is extended at each end by P = min(3N, len - 1) samples reflected about
+ * its end sample, x[-k] = 2 x[0] - x[k] and x[len-1+k] = 2 x[len-1] -
+ * x[len-1-k] (k = 1 .. P); each pass starts from the steady state z that
+ * the filter reaches under a constant input, scaled by the first sample the
+ * pass sees (z[k] = sum over j > k of (b_j - a_j g) / a0 with g = sum b /
+ * sum a, the transposed direct form of IIR; zero when sum a = 0, a pole at
+ * z = 1), which removes the start-up transients; the extensions are cut
+ * off. The forward pass starts from that state plus the forward delay line
+ * (N values in the order of IIRGetDlyLine; zeros by default): Init
+ * (pDlyLine null: zeros), GetDlyLine and SetDlyLine (null: zeros) exchange
+ * it, and filtering leaves it unchanged, since every call treats its block
+ * as a whole signal. The arithmetic is IIR's of the same type (64f_32f:
+ * double precision, the forward results rounded to single precision
+ * between the passes). _I filters in place; pDst may also be pSrc. Checks:
+ * pointers, len < 1 qspStsBadSize, a foreign state qspStsBadRecord; order
+ * < 1 at GetStateSize and Init qspStsBadFilterOrder. The record holds
+ * the passes' working state: one call at a time per state.
+ *     int size; qspsIIRIIRGetStateSize_32f(2, &size);
+ *     QspsIIRState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsIIRIIRInit_32f(&st, taps, 2, NULL, mem);   // taps: b0 b1 b2 a0 a1 a2
+ *     qspsIIRIIR_32f(x, y, len, st);
+ */
+QspStatus qspsIIRIIRGetStateSize_32f(int order, int* pBufferSize);
+QspStatus qspsIIRIIRInit_32f(QspsIIRState_32f** ppState, const Qsp32f* pTaps, int order, const Qsp32f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRIIR_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIRIIR_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState_32f* pState);
+QspStatus qspsIIRIIRGetDlyLine_32f(const QspsIIRState_32f* pState, Qsp32f* pDlyLine);
+QspStatus qspsIIRIIRSetDlyLine_32f(QspsIIRState_32f* pState, const Qsp32f* pDlyLine);
+QspStatus qspsIIRIIRGetStateSize_64f(int order, int* pBufferSize);
+QspStatus qspsIIRIIRInit_64f(QspsIIRState_64f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRIIR_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIRIIR_64f_I(Qsp64f* pSrcDst, int len, QspsIIRState_64f* pState);
+QspStatus qspsIIRIIRGetDlyLine_64f(const QspsIIRState_64f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRIIRSetDlyLine_64f(QspsIIRState_64f* pState, const Qsp64f* pDlyLine);
+QspStatus qspsIIRIIRGetStateSize64f_32f(int order, int* pBufferSize);
+QspStatus qspsIIRIIRInit64f_32f(QspsIIRState64f_32f** ppState, const Qsp64f* pTaps, int order, const Qsp64f* pDlyLine, Qsp8u* pBuf);
+QspStatus qspsIIRIIR64f_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIRIIR64f_32f_I(Qsp32f* pSrcDst, int len, QspsIIRState64f_32f* pState);
+QspStatus qspsIIRIIRGetDlyLine64f_32f(const QspsIIRState64f_32f* pState, Qsp64f* pDlyLine);
+QspStatus qspsIIRIIRSetDlyLine64f_32f(QspsIIRState64f_32f* pState, const Qsp64f* pDlyLine);
+
+/* FIRSparse --------------------------------------------------------------- */
+/*
+ * FIR filter with few non-zero taps:
+ *     y[n] = sum over j < nzTapsLen of pNZTaps[j] x[n - pNZTapPos[j]],
+ * positions strictly ascending and non-negative (else qspStsBadArgument at
+ * Init), so it equals the dense filter of order + 1 taps with zeros
+ * elsewhere, order being the largest position. Each output is formed
+ * tap by tap in the given order (the first product, then each further
+ * product added), the same for every sample, so consecutive calls on the
+ * pieces of a stream give the bits of one call on the whole; latency 0.
+ * Checks: GetStateSize: null pointer, nzTapsLen < 1 qspStsBadTapCount,
+ * order < nzTapsLen - 1 qspStsBadFilterOrder; Init: pointers (the delay
+ * line may be null: zeros), nzTapsLen < 1 qspStsBadTapCount, positions;
+ * filtering: pointers, len < 1 qspStsBadSize, a foreign state
+ * qspStsBadRecord. The state must be sized with an order of at least the
+ * largest position; a state whose size does not fit in an int gives
+ * qspStsOverflow at GetStateSize and Init. Delay line: the last `order`
+ * inputs, oldest first (the last one is x[-1]), kept in the state (one
+ * state per stream); GetDlyLine reads and SetDlyLine (null: zeros) replaces
+ * it; order 0 has none. pDst may be pSrc.
+ * 32f_16s: 16-bit data and delay line, 32f taps and arithmetic, results
+ * times 2^-scaleFactor, rounded to nearest even and saturated.
+ *     int pos[3] = {0, 40, 1000}; Qsp32f t[3] = {1.0f, 0.5f, 0.25f};
+ *     int size; qspsFIRSparseGetStateSize_32f(3, 1000, &size);
+ *     QspsFIRSparseState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsFIRSparseInit_32f(&st, t, pos, 3, NULL, mem);
+ *     qspsFIRSparse_32f(x, y, len, st);
+ */
+QspStatus qspsFIRSparseGetStateSize_32f(int nzTapsLen, int order, int* pStateSize);
+QspStatus qspsFIRSparseInit_32f(QspsFIRSparseState_32f** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen, const Qsp32f* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsFIRSparse_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsFIRSparseState_32f* pState);
+QspStatus qspsFIRSparseGetDlyLine_32f(const QspsFIRSparseState_32f* pState, Qsp32f* pDlyLine);
+QspStatus qspsFIRSparseSetDlyLine_32f(QspsFIRSparseState_32f* pState, const Qsp32f* pDlyLine);
+QspStatus qspsFIRSparseGetStateSize_32fc(int nzTapsLen, int order, int* pStateSize);
+QspStatus qspsFIRSparseInit_32fc(QspsFIRSparseState_32fc** ppState, const Qsp32fc* pNZTaps, const int* pNZTapPos, int nzTapsLen, const Qsp32fc* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsFIRSparse_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, QspsFIRSparseState_32fc* pState);
+QspStatus qspsFIRSparseGetDlyLine_32fc(const QspsFIRSparseState_32fc* pState, Qsp32fc* pDlyLine);
+QspStatus qspsFIRSparseSetDlyLine_32fc(QspsFIRSparseState_32fc* pState, const Qsp32fc* pDlyLine);
+QspStatus qspsFIRSparseGetStateSize32f_16s(int nzTapsLen, int order, int* pStateSize);
+QspStatus qspsFIRSparseInit32f_16s(QspsFIRSparseState32f_16s** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen, const Qsp16s* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsFIRSparse32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsFIRSparseState32f_16s* pState, int scaleFactor);
+QspStatus qspsFIRSparseGetDlyLine32f_16s(const QspsFIRSparseState32f_16s* pState, Qsp16s* pDlyLine);
+QspStatus qspsFIRSparseSetDlyLine32f_16s(QspsFIRSparseState32f_16s* pState, const Qsp16s* pDlyLine);
+
+/* IIRSparse --------------------------------------------------------------- */
+/*
+ * IIR filter with few non-zero taps:
+ *     y[n] = sum over j < nzTapsLen1 of b_j x[n - p_j]
+ *            - sum over k < nzTapsLen2 of a_k y[n - q_k];
+ * pNZTaps holds the nzTapsLen1 feed-forward values b then the nzTapsLen2
+ * feedback values a (already normalised: no a0), pNZTapPos their positions,
+ * p strictly ascending from 0 on, q strictly ascending from 1 on (else
+ * qspStsBadArgument at Init). order1 and order2 are the largest p and q
+ * (order2 = 0 without feedback taps); the state must be sized with orders of
+ * at least those. The feed-forward sum is formed as in
+ * FIRSparse, then the feedback terms are subtracted one by one from the last
+ * (farthest) to the first (nearest); consecutive calls on the pieces of a stream give the bits of one
+ * call on the whole. Checks: GetStateSize: null pointer, nzTapsLen1 < 1 or
+ * nzTapsLen2 < 0 qspStsBadTapCount, order1 < nzTapsLen1 - 1 or order2 <
+ * nzTapsLen2 qspStsBadFilterOrder; Init: pointers, counts, positions;
+ * filtering: pointers, len < 1 qspStsBadSize, a foreign state
+ * qspStsBadRecord. Delay line at Init (null: zeros): the last order1 inputs
+ * then the last order2 outputs, each oldest first; it lives in the state
+ * (one state per stream); a state whose size does not fit in an int gives
+ * qspStsOverflow at GetStateSize and Init. 32f_16s: 16-bit data, 32f taps
+ * and arithmetic;
+ * the output history keeps the single-precision results before scaling (a
+ * 16-bit delay line gives its values), pDst receives them times
+ * 2^-scaleFactor, rounded to nearest even and saturated.
+ *     Qsp32f t[2] = {1.0f, -0.9f}; int pos[2] = {0, 100};  // a comb
+ *     int size; qspsIIRSparseGetStateSize_32f(1, 1, 0, 100, &size);
+ *     QspsIIRSparseState_32f* st; Qsp8u* mem = qspsMalloc_8u(size);
+ *     qspsIIRSparseInit_32f(&st, t, pos, 1, 1, NULL, mem);
+ *     qspsIIRSparse_32f(x, y, len, st);
+ */
+QspStatus qspsIIRSparseGetStateSize_32f(int nzTapsLen1, int nzTapsLen2, int order1, int order2, int* pStateSize);
+QspStatus qspsIIRSparseInit_32f(QspsIIRSparseState_32f** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen1, int nzTapsLen2, const Qsp32f* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsIIRSparse_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, QspsIIRSparseState_32f* pState);
+QspStatus qspsIIRSparseGetStateSize32f_16s(int nzTapsLen1, int nzTapsLen2, int order1, int order2, int* pStateSize);
+QspStatus qspsIIRSparseInit32f_16s(QspsIIRSparseState32f_16s** ppState, const Qsp32f* pNZTaps, const int* pNZTapPos, int nzTapsLen1, int nzTapsLen2, const Qsp16s* pDlyLine, Qsp8u* pBuffer);
+QspStatus qspsIIRSparse32f_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDst, int len, QspsIIRSparseState32f_16s* pState, int scaleFactor);
+
+/* SampleUp ---------------------------------------------------------------- */
+/*
+ * Upsampling by an integer factor: every source element becomes a group of
+ * factor destination elements, the source element at position *pPhase of the
+ * group and zeros at the others:
+ *     pDst[i*factor + j] = (j == *pPhase) ? pSrc[i] : 0,  0 <= i < len, 0 <= j < factor.
+ * *pDstLen receives factor*len. *pPhase is read and left as it is: every block
+ * of a stream uses the same phase, so consecutive calls give the same result
+ * as one call on the joined source. factor 1 copies.
+ * Checks: a null pointer gives qspStsNullPtr, len < 1 qspStsBadSize, factor < 1
+ * qspStsBadFactor, *pPhase outside [0, factor) qspStsBadPhase, and factor*len
+ * above 2^31-1 qspStsOverflow; nothing is written then.
+ * pDst holds factor*len elements; it may start at pSrc (the groups are written
+ * from the last to the first), no other overlap. Thread-safe.
+ *     int n, phase = 0;
+ *     qspsSampleUp_32f(x, y, 100, &n, 4, &phase);   // n = 400
+ */
+QspStatus qspsSampleUp_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32sc(const Qsp32sc* pSrc, Qsp32sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleUp_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+
+/* SampleDown -------------------------------------------------------------- */
+/*
+ * Downsampling by an integer factor: the source elements at positions *pPhase,
+ * *pPhase + factor, *pPhase + 2*factor, ... below len are kept:
+ *     pDst[k] = pSrc[*pPhase + k*factor],  0 <= k < *pDstLen,
+ * *pDstLen = (len - *pPhase + factor - 1) / factor (0 when *pPhase >= len).
+ * *pPhase then receives the position in the next block at which the stream
+ * continues, *pPhase + *pDstLen*factor - len (in [0, factor)), so consecutive
+ * calls give the same elements as one call on the joined source. factor 1
+ * copies.
+ * Checks: a null pointer gives qspStsNullPtr, len < 1 qspStsBadSize, factor < 1
+ * qspStsBadFactor, *pPhase outside [0, factor) qspStsBadPhase; nothing is
+ * written then. pDst holds (len + factor - 1) / factor elements; it may be
+ * pSrc itself (in place), no other overlap. Thread-safe.
+ *     int n, phase = 1;
+ *     qspsSampleDown_32f(x, y, 10, &n, 4, &phase);   // y: x[1] x[5] x[9]; n 3, phase 3
+ */
+QspStatus qspsSampleDown_16s(const Qsp16s* pSrc, Qsp16s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_16sc(const Qsp16sc* pSrc, Qsp16sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32s(const Qsp32s* pSrc, Qsp32s* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32sc(const Qsp32sc* pSrc, Qsp32sc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len, int* pDstLen, int factor, int* pPhase);
+QspStatus qspsSampleDown_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, int len, int* pDstLen, int factor, int* pPhase);
 
 /* RandUniform ------------------------------------------------------------- */
 /*

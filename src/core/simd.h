@@ -63,6 +63,11 @@ struct IntRegOps {
     static void stream(void* p, Reg r) { _mm_stream_si128(static_cast<__m128i*>(p), r); }
     static Reg zero() { return _mm_setzero_si128(); }
     static Reg shuffleBytes(Reg r, Reg order) { return _mm_shuffle_epi8(r, order); }
+    // The low 8 or 4 bytes alone, at any alignment (loads clear the rest).
+    static Reg loadLow8(const void* p) { return _mm_loadl_epi64(static_cast<const __m128i*>(p)); }
+    static void storeLow8(void* p, Reg r) { _mm_storel_epi64(static_cast<__m128i*>(p), r); }
+    static Reg loadLow4(const void* p) { return _mm_cvtsi32_si128(loadOne(static_cast<const int*>(p))); }
+    static void storeLow4(void* p, Reg r) { storeOne(static_cast<int*>(p), _mm_cvtsi128_si32(r)); }
 };
 
 template <class T>
@@ -127,6 +132,7 @@ struct Vec<Qsp64u> : IntRegOps {
     static Reg bitXor(Reg a, Reg b) { return _mm_xor_si128(a, b); }
     template <int n>
     static Reg rotateLeft(Reg a) { return _mm_or_si128(_mm_slli_epi64(a, n), _mm_srli_epi64(a, 64 - n)); }
+    static Reg andNot(Reg a, Reg b) { return _mm_andnot_si128(a, b); }  // ~a & b
 };
 
 template <>
@@ -196,6 +202,29 @@ struct Vec<float> {
     static Reg odds(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1)); }
     static Reg zipLo(Reg a, Reg b) { return _mm_unpacklo_ps(a, b); }
     static Reg zipHi(Reg a, Reg b) { return _mm_unpackhi_ps(a, b); }
+    // The lanes' bit patterns as 32-bit integer lanes, and back.
+    static __m128i bits(Reg a) { return _mm_castps_si128(a); }
+    static Reg ofBits(__m128i a) { return _mm_castsi128_ps(a); }
+    // Lanes as a sequence in time (lane 0 first): shiftUp<j> delays r by j
+    // lanes with zeros entering; alignUp<j> delays cur by j lanes with the
+    // last j lanes of prev (the register before it) entering; broadcast<i>
+    // repeats lane i. j runs from 0 to 4.
+    template <int j>
+    static Reg shiftUp(Reg r)
+    {
+        return _mm_castsi128_ps(_mm_slli_si128(_mm_castps_si128(r), 4 * j));
+    }
+    template <int j>
+    static Reg alignUp(Reg cur, Reg prev)
+    {
+        if constexpr (j == 0) return cur;
+        else if constexpr (j == 4) return prev;
+        else return _mm_castsi128_ps(_mm_alignr_epi8(_mm_castps_si128(cur), _mm_castps_si128(prev), 16 - 4 * j));
+    }
+    template <int i>
+    static Reg broadcast(Reg r) { return _mm_shuffle_ps(r, r, i * 0x55); }
+    // 32-bit integer lanes as floats (exact below 2^24).
+    static Reg fromInt32(__m128i a) { return _mm_cvtepi32_ps(a); }
 };
 
 template <>
@@ -258,6 +287,32 @@ struct Vec<double> {
     static Reg ofBits(__m128i a) { return _mm_castsi128_pd(a); }
     // Lanes 2, 3 of a register of 32-bit integers, as doubles.
     static Reg fromInt32High(__m128i a) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64(a, a)); }
+    // The low 32 bits of the lanes of a, then of b, as four 32-bit lanes.
+    static __m128i lowWords(Reg a, Reg b)
+    {
+        return _mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(2, 0, 2, 0)));
+    }
+    // Lanes as a sequence in time, as in Vec<float>; j runs from 0 to 2.
+    template <int j>
+    static Reg shiftUp(Reg r)
+    {
+        return _mm_castsi128_pd(_mm_slli_si128(_mm_castpd_si128(r), 8 * j));
+    }
+    template <int j>
+    static Reg alignUp(Reg cur, Reg prev)
+    {
+        if constexpr (j == 0) return cur;
+        else if constexpr (j == 2) return prev;
+        else return _mm_shuffle_pd(prev, cur, 1);  // prev1, cur0
+    }
+    template <int i>
+    static Reg broadcast(Reg r)
+    {
+        if constexpr (i == 0) return _mm_movedup_pd(r);
+        else return _mm_unpackhi_pd(r, r);
+    }
+    // Both lanes rounded to single precision, in lanes 0 and 1.
+    static __m128 narrowLow(Reg a) { return _mm_cvtpd_ps(a); }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no
@@ -391,6 +446,11 @@ struct Vec<Qsp32s> : IntRegOps {
     static Reg quarter8s(Reg a) { return _mm_cvtepi8_epi32(_mm_srli_si128(a, 4 * q)); }
     // Lanes 0, 1 of a, then lanes 0, 1 of b.
     static Reg lowHalves(Reg a, Reg b) { return _mm_unpacklo_epi64(a, b); }
+    // Arithmetic shift by a constant, and lanes picked by index.
+    template <int n>
+    static Reg srai(Reg a) { return _mm_srai_epi32(a, n); }
+    template <int a, int b, int c, int d>
+    static Reg shuffle(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(d, c, b, a)); }
 };
 
 // Narrowing of 32-bit lanes with saturation to the unsigned types.
@@ -399,6 +459,11 @@ struct Vec<Qsp8s> : IntRegOps {
     static constexpr int lanes = 16;
     static Reg splat(Qsp8s x) { return _mm_set1_epi8(x); }
     static Reg reverse(Reg r) { return Vec<Qsp8u>::reverse(r); }
+    // Signed comparisons and selections of 8-bit lanes.
+    static Reg cmpgt(Reg a, Reg b) { return _mm_cmpgt_epi8(a, b); }
+    static Reg min(Reg a, Reg b) { return _mm_min_epi8(a, b); }
+    static Reg max(Reg a, Reg b) { return _mm_max_epi8(a, b); }
+    static Reg select(Reg mask, Reg a, Reg b) { return _mm_blendv_epi8(a, b, mask); }
 };
 
 // Four registers of 32-bit lanes to one register of 16 saturated 8u lanes.
