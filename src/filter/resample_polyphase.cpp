@@ -182,11 +182,15 @@ Qsp64s downward(const Record* r, const T* src, T* dst, Qsp64s len, Qsp64u step, 
         const Qsp64s i = Qsp64s(pos >> 32);
         if (i + h + 1 > len - 1) break;
         const double f = double(pos & kFracMask) * (1.0 / kGrid);
+        // The table positions fall as m rises: skip the few inputs beyond
+        // the table's far end, then stop at its near end.
         double acc = 0.0;
-        for (Qsp64s m = -h; m <= h + 1; ++m) {
+        Qsp64s m = -h;
+        while (m <= h + 1 && (f - double(m)) * scale + k >= 2.0 * k + 1.0) ++m;
+        for (; m <= h + 1; ++m) {
             const double p = (f - double(m)) * scale + k;
-            if (p <= -1.0 || p >= 2.0 * k + 1.0) continue;
-            const Qsp64s j = p < 0.0 ? -1 : Qsp64s(p);
+            if (p <= -1.0) break;
+            const Qsp64s j = Qsp64s(p + 1.0) - 1;  // floor, p > -1
             const double mu = p - double(j);
             const double g = double(table[j]) + mu * (double(table[j + 1]) - double(table[j]));
             acc += g * double(resample::sampleIn(src[i + m]));

@@ -15,7 +15,7 @@
 // Inner products: y = sum over i < n of t[i] x[i], taps t in single
 // precision (16-byte aligned), samples in single precision or 16-bit
 // integers (converted exactly to single precision a piece at a time). The
-// sums are kept in two registers of four lanes, combined at the end, so an
+// sums are kept in registers of four lanes, combined at the end, so an
 // output depends on its taps and samples only and not on where it lies in
 // a block: a stream resampled in pieces gives the same bits as in one call.
 #pragma once
@@ -69,37 +69,49 @@ inline void kernel(double* t, Qsp64s k, double d, double fc, double beta)
 
 using V = simd::Vec<float>;
 
-// Sum of t[i] x[i] over i < n: two four-lane running sums, then a scalar
-// tail, combined as (s0 + s1) lanes left to right, then the tail.
+// Sum of t[i] x[i] over i < n: four four-lane running sums (so that four
+// additions are in flight), then a scalar tail, combined as
+// ((s0 + s1) + (s2 + s3)) lanes left to right, then the tail.
 inline float dot(const float* t, const float* x, Qsp64s n)
 {
-    V::Reg s0 = V::zero(), s1 = V::zero();
+    V::Reg s0 = V::zero(), s1 = V::zero(), s2 = V::zero(), s3 = V::zero();
     Qsp64s i = 0;
-    for (; i + 8 <= n; i += 8) {
+    for (; i + 16 <= n; i += 16) {
         s0 = V::add(s0, V::mul(V::load(t + i), V::loadu(x + i)));
         s1 = V::add(s1, V::mul(V::load(t + i + 4), V::loadu(x + i + 4)));
+        s2 = V::add(s2, V::mul(V::load(t + i + 8), V::loadu(x + i + 8)));
+        s3 = V::add(s3, V::mul(V::load(t + i + 12), V::loadu(x + i + 12)));
     }
-    if (i + 4 <= n) s0 = V::add(s0, V::mul(V::load(t + i), V::loadu(x + i))), i += 4;
+    for (; i + 4 <= n; i += 4) s0 = V::add(s0, V::mul(V::load(t + i), V::loadu(x + i)));
     alignas(16) float l[4];
-    V::store(l, V::add(s0, s1));
+    V::store(l, V::add(V::add(s0, s1), V::add(s2, s3)));
     float s = (l[0] + l[1]) + (l[2] + l[3]);
     for (; i < n; ++i) s += t[i] * x[i];
     return s;
 }
 
-// Both sums of two tap rows a and b against the same samples at once.
+// Both sums of two tap rows a and b against the same samples at once, each
+// in two running sums.
 inline void dot2(const float* a, const float* b, const float* x, Qsp64s n, float& ya, float& yb)
 {
-    V::Reg sa = V::zero(), sb = V::zero();
+    V::Reg sa0 = V::zero(), sb0 = V::zero(), sa1 = V::zero(), sb1 = V::zero();
     Qsp64s i = 0;
-    for (; i + 4 <= n; i += 4) {
+    for (; i + 8 <= n; i += 8) {
+        const auto v0 = V::loadu(x + i), v1 = V::loadu(x + i + 4);
+        sa0 = V::add(sa0, V::mul(V::load(a + i), v0));
+        sb0 = V::add(sb0, V::mul(V::load(b + i), v0));
+        sa1 = V::add(sa1, V::mul(V::load(a + i + 4), v1));
+        sb1 = V::add(sb1, V::mul(V::load(b + i + 4), v1));
+    }
+    if (i + 4 <= n) {
         const auto v = V::loadu(x + i);
-        sa = V::add(sa, V::mul(V::load(a + i), v));
-        sb = V::add(sb, V::mul(V::load(b + i), v));
+        sa0 = V::add(sa0, V::mul(V::load(a + i), v));
+        sb0 = V::add(sb0, V::mul(V::load(b + i), v));
+        i += 4;
     }
     alignas(16) float la[4], lb[4];
-    V::store(la, sa);
-    V::store(lb, sb);
+    V::store(la, V::add(sa0, sa1));
+    V::store(lb, V::add(sb0, sb1));
     float ra = (la[0] + la[1]) + (la[2] + la[3]);
     float rb = (lb[0] + lb[1]) + (lb[2] + lb[3]);
     for (; i < n; ++i) ra += a[i] * x[i], rb += b[i] * x[i];
