@@ -2423,8 +2423,9 @@ QspStatus qspsFilterMedian_32f_I(Qsp32f* pSrcDst, int len, int maskSize, const Q
  * order pointers, sizes, factors, shape, hint; nothing is written on error.
  *
  * Any ratio. GetSize/Init: window is the kernel's full width in input
- * samples (> 0, else qspStsBadSize), nStep the table points per input
- * sample (>= 1, else qspStsBadSize): the table spans |u| <= W = K / nStep,
+ * samples (in (0, 1e9], else qspStsBadSize), nStep the table points per
+ * input sample (>= 1, else qspStsBadSize; a table beyond 2^28 points or a
+ * record beyond 2^31 bytes gives qspStsOverflow): the table spans |u| <= W = K / nStep,
  * K = ceil(window nStep / 2) (at least 1), i.e. the width rounded up to
  * 2/nStep. Between table points g is interpolated linearly (its error is
  * about (pi rollf / nStep)^2 / 8 of the kernel's peak), and beyond the two

@@ -13,7 +13,7 @@
 // between rows r = floor(f nStep) and r + 1 linearly, as the sum of one
 // row and mu times one row of differences, both against the same inputs.
 // Going down (factor < 1) the kernel is stretched to s g(s u), s = factor,
-// and every tap is interpolated from the table.
+// and every tap is interpolated from the table and its differences.
 //
 // Time is kept on a grid of 2^-32 input samples, so that the phase of an
 // output depends on the fraction of its time only and not on the integer
@@ -22,8 +22,9 @@
 //
 // Record, in caller memory from the first 64-byte boundary at or after the
 // caller's pointer: a 64-byte header, the table (2K + 1 floats between two
-// zeros), the rows, the differences (rows of a multiple of four floats),
-// and the double-precision table Init computes first.
+// zeros) and the differences of its neighbours, the rows, the differences
+// of the rows (rows of a multiple of four floats), and the
+// double-precision table Init computes first.
 #include "checks.h"
 #include "resample_polyphase.h"
 
@@ -68,7 +69,8 @@ bool layoutFor(double window, int nStep, Layout& z)
     z.half = k / nStep;
     z.rowLen = 2 * z.half + 2;
     z.stride = resample::roundUp4(z.rowLen);
-    z.rows = resample::align16(kHeaderBytes + (2 * k + 3) * 4);
+    // The table between its zeros, then its differences.
+    z.rows = resample::align16(kHeaderBytes + 2 * (2 * k + 3) * 4);
     z.deltas = z.rows + Qsp64s(nStep) * z.stride * 4;
     z.scratch = z.deltas + Qsp64s(nStep) * z.stride * 4;
     z.size = 63 + z.scratch + (2 * k + 1) * 8 + 15;
@@ -112,6 +114,9 @@ QspStatus init(float window, int nStep, float rollf, float alpha, void* pSpec, Q
     for (Qsp64s i = 0; i <= 2 * k; ++i) table[i] = float(g[i]);
     table[-1] = 0.0f;
     table[2 * k + 1] = 0.0f;
+    // steps[j] = table[j + 1] - table[j] for j = -1 .. 2K.
+    float* steps = table + 2 * k + 3;
+    for (Qsp64s j = -1; j <= 2 * k; ++j) steps[j] = table[j + 1] - table[j];
 
     // Row r, tap j weighs the input m = j - h after the output's integer
     // time: g(r / nStep - m), table index r + K - m nStep.
@@ -171,31 +176,36 @@ Qsp64s upward(const Record* r, const T* src, T* dst, Qsp64s len, Qsp64u step, fl
     return count;
 }
 
+// Going down every tap is interpolated from the table: the positions
+// P = (f - m) s nStep + K fall by s nStep table steps from one input to the
+// next and are kept in fixed point (2^-32 table steps), so that the table
+// index is a shift and the interpolation weight the low 32 bits. The
+// products are summed in single precision from the farthest input on.
 template <class T>
 Qsp64s downward(const Record* r, const T* src, T* dst, Qsp64s len, Qsp64u step, double factor, float norm,
                 Qsp64s h, Qsp64u& pos)
 {
     const float* table = reinterpret_cast<const float*>(reinterpret_cast<const Qsp8u*>(r) + kHeaderBytes) + 1;
+    const float* steps = table + 2 * r->k + 3;
     const double k = double(r->k), scale = factor * double(r->nStep);
+    const Qsp64s fall = Qsp64s(scale * kGrid + 0.5);
+    const Qsp64s far = (2 * r->k + 1) << 32, near = -(Qsp64s(1) << 32);
+    const float fs = float(factor);
     Qsp64s count = 0;
     for (;; pos += step) {
         const Qsp64s i = Qsp64s(pos >> 32);
         if (i + h + 1 > len - 1) break;
         const double f = double(pos & kFracMask) * (1.0 / kGrid);
-        // The table positions fall as m rises: skip the few inputs beyond
-        // the table's far end, then stop at its near end.
-        double acc = 0.0;
         Qsp64s m = -h;
-        while (m <= h + 1 && (f - double(m)) * scale + k >= 2.0 * k + 1.0) ++m;
-        for (; m <= h + 1; ++m) {
-            const double p = (f - double(m)) * scale + k;
-            if (p <= -1.0) break;
-            const Qsp64s j = Qsp64s(p + 1.0) - 1;  // floor, p > -1
-            const double mu = p - double(j);
-            const double g = double(table[j]) + mu * (double(table[j + 1]) - double(table[j]));
-            acc += g * double(resample::sampleIn(src[i + m]));
+        Qsp64s p = Qsp64s(((f + double(h)) * scale + k) * kGrid + 0.5);
+        for (; m <= h + 1 && p >= far; ++m) p -= fall;
+        float acc = 0.0f;
+        for (; m <= h + 1 && p > near; ++m, p -= fall) {
+            const Qsp64s j = p >> 32;  // floor: -1 just before the table
+            const float mu = float(Qsp32u(p)) * (1.0f / 4294967296.0f);
+            acc += (table[j] + mu * steps[j]) * resample::sampleIn(src[i + m]);
         }
-        resample::sampleOut(float(acc * factor), norm, dst + count++);
+        resample::sampleOut(acc * fs, norm, dst + count++);
     }
     return count;
 }
