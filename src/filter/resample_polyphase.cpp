@@ -180,7 +180,7 @@ Qsp64s upward(const Record* r, const T* src, T* dst, Qsp64s len, Qsp64u step, fl
 // P = (f - m) s nStep + K fall by s nStep table steps from one input to the
 // next and are kept in fixed point (2^-32 table steps), so that the table
 // index is a shift and the interpolation weight the low 32 bits. The
-// products are summed in single precision by the inner products.
+// products are summed in single precision from the farthest input on.
 template <class T>
 Qsp64s downward(const Record* r, const T* src, T* dst, Qsp64s len, Qsp64u step, double factor, float norm,
                 Qsp64s h, Qsp64u& pos)
@@ -199,19 +199,11 @@ Qsp64s downward(const Record* r, const T* src, T* dst, Qsp64s len, Qsp64u step, 
         Qsp64s m = -h;
         Qsp64s p = Qsp64s(((f + double(h)) * scale + k) * kGrid + 0.5);
         for (; m <= h + 1 && p >= far; ++m) p -= fall;
-        // The taps a piece at a time into a block, then the block's inner
-        // product, so that the sums do not wait on one another.
-        alignas(16) float taps[resample::kPiece];
         float acc = 0.0f;
-        while (m <= h + 1 && p > near) {
-            const Qsp64s first = m;
-            Qsp64s c = 0;
-            for (; c < resample::kPiece && m <= h + 1 && p > near; ++c, ++m, p -= fall) {
-                const Qsp64s j = p >> 32;  // floor: -1 just before the table
-                const float mu = float(Qsp32u(p)) * (1.0f / 4294967296.0f);
-                taps[c] = table[j] + mu * steps[j];
-            }
-            acc += resample::dot(taps, src + i + first, c);
+        for (; m <= h + 1 && p > near; ++m, p -= fall) {
+            const Qsp64s j = p >> 32;  // floor: -1 just before the table
+            const float mu = float(Qsp32u(p)) * (1.0f / 4294967296.0f);
+            acc += (table[j] + mu * steps[j]) * resample::sampleIn(src[i + m]);
         }
         resample::sampleOut(acc * fs, norm, dst + count++);
     }
