@@ -233,7 +233,6 @@ struct WidenIO {
     using Reg = typename E::Reg;
     using P = typename E::Part;
     using Dp = typename PartOf<D>::type;
-    static constexpr int kParts = 16 / int(sizeof(P));  // parts per register
     static constexpr bool kPlain = false;
 
     static Reg load(const D* pd)
