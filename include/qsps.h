@@ -1996,10 +1996,10 @@ QspStatus qspsIIRInit64f_BiQuad_DF1_32s(QspsIIRState64f_32s** ppState, const Qsp
  * and _IPSfs filter nChannels channels of len samples each, channel c from
  * ppSrc[c] to ppDst[c] (_IP: in place in ppSrcDst[c]) through its own state
  * ppState[c]; kinds and orders may differ between channels, states and
- * destinations may not be shared. Checks: null pState, pSrc or pDst (channel
- * forms: ppSrc, ppDst or ppState) gives qspStsNullPtr; len below 1
- * qspStsBadSize; channel forms then nChannels below 1 qspStsBadSize and a
- * null channel pointer qspStsNullPtr; then a state of another kind
+ * destinations may not be shared. Checks: null pState, then null pSrc or
+ * pDst (channel forms: ppSrc, ppDst, then ppState) gives qspStsNullPtr; len
+ * below 1 qspStsBadSize; channel forms then nChannels below 1 qspStsBadSize
+ * and a null channel pointer qspStsNullPtr; then a state of another kind
  * qspStsBadRecord. All channels are checked before any is filtered; on error
  * nothing is written. Threads: every call writes its state, so a state
  * serves one signal at a time; calls on different states may run at once.
