@@ -2005,12 +2005,13 @@ QspStatus qspsIIRInit64f_BiQuad_DF1_32s(QspsIIRState64f_32s** ppState, const Qsp
  * serves one signal at a time; calls on different states may run at once.
  * Example, a cascade of two sections over a stream of blocks:
  *     Qsp32f taps[12] = {b0, b1, b2, 1, a1, a2,   c0, c1, c2, 1, e1, e2};
- *     int size;
+ *     Qsp32f x[256];
+ *     int size, n;
  *     qspsIIRGetStateSize_BiQuad_32f(2, &size);
  *     Qsp8u* buf = qspsMalloc_8u(size);
  *     QspsIIRState_32f* st;
  *     if (buf && qspsIIRInit_BiQuad_32f(&st, taps, 2, NULL, buf) == qspStsOk)
- *         while ((n = read_block(x)) > 0) {      // n samples in x
+ *         while ((n = read_block(x, 256)) > 0) { // n samples in x
  *             qspsIIR_32f_I(x, n, st);             // continues the signal
  *             write_block(x, n);
  *         }
