@@ -2127,21 +2127,22 @@ QspStatus qspsIIRInit64f_BiQuad_DF1_32s(QspsIIRState64f_32s** ppState, const Qsp
  * and _IPSfs filter nChannels channels of len samples each, channel c from
  * ppSrc[c] to ppDst[c] (_IP: in place in ppSrcDst[c]) through its own state
  * ppState[c]; kinds and orders may differ between channels, states and
- * destinations may not be shared. Checks: null pState, pSrc or pDst (channel
- * forms: ppSrc, ppDst or ppState) gives qspStsNullPtr; len below 1
- * qspStsBadSize; channel forms then nChannels below 1 qspStsBadSize and a
- * null channel pointer qspStsNullPtr; then a state of another kind
+ * destinations may not be shared. Checks: null pState, then null pSrc or
+ * pDst (channel forms: ppSrc, ppDst, then ppState) gives qspStsNullPtr; len
+ * below 1 qspStsBadSize; channel forms then nChannels below 1 qspStsBadSize
+ * and a null channel pointer qspStsNullPtr; then a state of another kind
  * qspStsBadRecord. All channels are checked before any is filtered; on error
  * nothing is written. Threads: every call writes its state, so a state
  * serves one signal at a time; calls on different states may run at once.
  * Example, a cascade of two sections over a stream of blocks:
  *     Qsp32f taps[12] = {b0, b1, b2, 1, a1, a2,   c0, c1, c2, 1, e1, e2};
- *     int size;
+ *     Qsp32f x[256];
+ *     int size, n;
  *     qspsIIRGetStateSize_BiQuad_32f(2, &size);
  *     Qsp8u* buf = qspsMalloc_8u(size);
  *     QspsIIRState_32f* st;
  *     if (buf && qspsIIRInit_BiQuad_32f(&st, taps, 2, NULL, buf) == qspStsOk)
- *         while ((n = read_block(x)) > 0) {      // n samples in x
+ *         while ((n = read_block(x, 256)) > 0) { // n samples in x
  *             qspsIIR_32f_I(x, n, st);             // continues the signal
  *             write_block(x, n);
  *         }

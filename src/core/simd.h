@@ -192,8 +192,13 @@ struct Vec<float> {
     {
         return _mm_castpd_ps(_mm_loaddup_pd(reinterpret_cast<const double*>(p)));
     }
-    // One 8-byte pair alone in the low half, the high half zero.
-    static Reg loadPair(const float* p) { return _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(p))); }
+    // One 8-byte pair alone in the low half, the high half zero (p need not
+    // be aligned: an integer move, where a double load would require 8-byte
+    // alignment of p).
+    static Reg loadPair(const float* p)
+    {
+        return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+    }
     static Reg negOdd(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f)); }
     static Reg negEven(Reg r) { return _mm_xor_ps(r, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f)); }
     // Split and join of complex pairs: evens/odds take the real/imaginary

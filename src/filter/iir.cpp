@@ -13,6 +13,8 @@
 namespace y8 {
 namespace {
 
+using namespace iir::served;
+
 using iir::NarrowIO;
 using iir::PlainIO;
 using iir::ScaledIO;
@@ -66,18 +68,6 @@ QspStatus channels(const D* const* ppSrc, D* const* ppDst, int len, int nChannel
     return qspStsOk;
 }
 
-constexpr std::initializer_list<int> k32f = {1, 2, 29};
-constexpr std::initializer_list<int> k32fc = {3, 4};
-constexpr std::initializer_list<int> k32f16s = {5, 6};
-constexpr std::initializer_list<int> k32fc16sc = {7, 8};
-constexpr std::initializer_list<int> k64f = {13, 14};
-constexpr std::initializer_list<int> k64fc = {15, 16};
-constexpr std::initializer_list<int> k64f32f = {17, 18};
-constexpr std::initializer_list<int> k64fc32fc = {19, 20};
-constexpr std::initializer_list<int> k64f32s = {21, 22, 30};
-constexpr std::initializer_list<int> k64fc32sc = {23, 24};
-constexpr std::initializer_list<int> k64f16s = {25, 26};
-constexpr std::initializer_list<int> k64fc16sc = {27, 28};
 
 }  // namespace
 
@@ -156,22 +146,22 @@ QspStatus qspsIIR64fc_32fc_I(Qsp32fc* pSrcDst, int len, QspsIIRState64fc_32fc* p
 }
 QspStatus qspsIIR64f_32s_Sfs(const Qsp32s* pSrc, Qsp32s* pDst, int len, QspsIIRState64f_32s* pState, int scaleFactor)
 {
-    return scaled<double>(pSrc, pDst, len, pState, scaleFactor, k64f32s);
+    return scaled<double>(pSrc, pDst, len, pState, scaleFactor, k64f32sAll);
 }
 QspStatus qspsIIR64f_32s_ISfs(Qsp32s* pSrcDst, int len, QspsIIRState64f_32s* pState, int scaleFactor)
 {
-    return scaled<double>(pSrcDst, pSrcDst, len, pState, scaleFactor, k64f32s);
+    return scaled<double>(pSrcDst, pSrcDst, len, pState, scaleFactor, k64f32sAll);
 }
 QspStatus qspsIIR64f_32s_PSfs(const Qsp32s** ppSrc, Qsp32s** ppDst, int len, int nChannels,
                               QspsIIRState64f_32s** ppState, int scaleFactor)
 {
-    return channels<double>(ppSrc, ppDst, len, nChannels, ppState, k64f32s, WidenIO<Qsp32s, double>{},
+    return channels<double>(ppSrc, ppDst, len, nChannels, ppState, k64f32sAll, WidenIO<Qsp32s, double>{},
                             ScaledIO<double, Qsp32s>(scaleFactor));
 }
 QspStatus qspsIIR64f_32s_IPSfs(Qsp32s** ppSrcDst, int len, int nChannels, QspsIIRState64f_32s** ppState,
                                int scaleFactor)
 {
-    return channels<double>(ppSrcDst, ppSrcDst, len, nChannels, ppState, k64f32s, WidenIO<Qsp32s, double>{},
+    return channels<double>(ppSrcDst, ppSrcDst, len, nChannels, ppState, k64f32sAll, WidenIO<Qsp32s, double>{},
                             ScaledIO<double, Qsp32s>(scaleFactor));
 }
 QspStatus qspsIIR64fc_32sc_Sfs(const Qsp32sc* pSrc, Qsp32sc* pDst, int len, QspsIIRState64fc_32sc* pState,

@@ -11,6 +11,8 @@
 namespace y8 {
 namespace {
 
+using namespace iir::served;
+
 template <class T, class V, class P>
 QspStatus get(const P* pState, V* pDlyLine, std::initializer_list<int> digits)
 {
@@ -38,19 +40,6 @@ QspStatus set(P* pState, const V* pDlyLine, std::initializer_list<int> digits)
     return qspStsOk;
 }
 
-constexpr std::initializer_list<int> k32f = {1, 2, 29};
-constexpr std::initializer_list<int> k32fc = {3, 4};
-constexpr std::initializer_list<int> k32f16s = {5, 6};
-constexpr std::initializer_list<int> k32fc16sc = {7, 8};
-constexpr std::initializer_list<int> k64f = {13, 14};
-constexpr std::initializer_list<int> k64fc = {15, 16};
-constexpr std::initializer_list<int> k64f32f = {17, 18};
-constexpr std::initializer_list<int> k64fc32fc = {19, 20};
-constexpr std::initializer_list<int> k64f32s = {21, 22};
-constexpr std::initializer_list<int> k64fc32sc = {23, 24};
-constexpr std::initializer_list<int> k64f16s = {25, 26};
-constexpr std::initializer_list<int> k64fc16sc = {27, 28};
-constexpr std::initializer_list<int> kDF164f32s = {30};
 
 }  // namespace
 

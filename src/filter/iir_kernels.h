@@ -233,7 +233,6 @@ struct WidenIO {
     using Reg = typename E::Reg;
     using P = typename E::Part;
     using Dp = typename PartOf<D>::type;
-    static constexpr int kParts = 16 / int(sizeof(P));  // parts per register
     static constexpr bool kPlain = false;
 
     static Reg load(const D* pd)
@@ -564,7 +563,20 @@ void ownsIIRyAR(const ArTaps<T>& f, const T* s, T* y, int B)
     Reg y1 = lastBefore(y, n), y2 = lastBefore(y, n - L);
     for (; n + L <= B; n += L) {
         Reg acc = E::load(s + n);
-        for (int k = N; k >= 2 * L; --k) acc = E::sub(acc, E::mul(E::load(y + n - k), f.fb[k - 1]));
+        int k = N;
+        if (k >= 2 * L + 3) {
+            // Four chains of adds, so that long filters wait for the add
+            // latency once per four taps rather than once per tap.
+            Reg acc1 = E::zero(), acc2 = E::zero(), acc3 = E::zero();
+            for (; k >= 2 * L + 3; k -= 4) {
+                acc = E::sub(acc, E::mul(E::load(y + n - k), f.fb[k - 1]));
+                acc1 = E::sub(acc1, E::mul(E::load(y + n - k + 1), f.fb[k - 2]));
+                acc2 = E::sub(acc2, E::mul(E::load(y + n - k + 2), f.fb[k - 3]));
+                acc3 = E::sub(acc3, E::mul(E::load(y + n - k + 3), f.fb[k - 4]));
+            }
+            acc = E::add(E::add(acc, acc1), E::add(acc2, acc3));
+        }
+        for (; k >= 2 * L; --k) acc = E::sub(acc, E::mul(E::load(y + n - k), f.fb[k - 1]));
         staticFor<L>([&](auto j) {
             constexpr int k = 2 * L - 1 - j;  // L .. 2L-1, farthest first
             if (k <= N) acc = E::sub(acc, E::mul(E::template alignUp<k - L>(y1, y2), f.fb[k - 1]));

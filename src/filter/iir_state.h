@@ -154,6 +154,25 @@ inline bool accepts(const void* pState, std::initializer_list<int> digits)
     return false;
 }
 
+// The states each family of forms serves, by their digits: the AR, BiQuad
+// and direct-form-1 states of its sample and state types.
+namespace served {
+constexpr std::initializer_list<int> k32f = {1, 2, 29};
+constexpr std::initializer_list<int> k32fc = {3, 4};
+constexpr std::initializer_list<int> k32f16s = {5, 6};
+constexpr std::initializer_list<int> k32fc16sc = {7, 8};
+constexpr std::initializer_list<int> k64f = {13, 14};
+constexpr std::initializer_list<int> k64fc = {15, 16};
+constexpr std::initializer_list<int> k64f32f = {17, 18};
+constexpr std::initializer_list<int> k64fc32fc = {19, 20};
+constexpr std::initializer_list<int> k64f32s = {21, 22};  // delay lines of 64f values
+constexpr std::initializer_list<int> kDF164f32s = {30};   // delay lines of 32s samples
+constexpr std::initializer_list<int> k64f32sAll = {21, 22, 30};
+constexpr std::initializer_list<int> k64fc32sc = {23, 24};
+constexpr std::initializer_list<int> k64f16s = {25, 26};
+constexpr std::initializer_list<int> k64fc16sc = {27, 28};
+}  // namespace served
+
 // 1 / a0 in T (complex: formed in extended precision, then rounded).
 template <class T>
 T reciprocal(T a0)

@@ -328,6 +328,21 @@ std::vector<T> biquadTaps(int K, std::vector<LD> radii = {0.5L, 0.8L, 0.7L})
     return t;
 }
 
+// Random taps of a stable state of the kind: order or sections n.
+template <class K>
+std::vector<typename K::TapT> tapsFor(const K& k, int n)
+{
+    using Tap = typename K::TapT;
+    return k.shape == Shape::AR ? arTaps<Tap>(n) : biquadTaps<Tap>(n);
+}
+
+// The bytes of a built state, to show that a call left it alone.
+template <class K>
+std::vector<unsigned char> bytesOf(const Built<K>& b)
+{
+    return std::vector<unsigned char>(b.buf, b.buf + b.size);
+}
+
 // ---------------------------------------------------------------------------
 // References.
 

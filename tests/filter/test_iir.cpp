@@ -28,13 +28,6 @@ const std::vector<int> kCalls = {1, 2, 3, 5, 8, 13, 100, 1024, 1500, 3000};
 // For the long AR filters: a short call, a whole block, a block and a bit.
 const std::vector<int> kLongOrderCalls = {5, 1024, 1500};
 
-template <class K>
-std::vector<typename K::TapT> tapsFor(const K& k, int n)
-{
-    using Tap = typename K::TapT;
-    return k.shape == Shape::AR ? arTaps<Tap>(n) : biquadTaps<Tap>(n);
-}
-
 // A random delay line of the kind: magnitudes below 1 (integer samples of
 // the direct-form-1 cascade below 100).
 template <class K>
@@ -469,12 +462,6 @@ namespace {
 template <class KA, class KB>
 constexpr bool sameForm = std::is_same_v<typename KA::StateT, typename KB::StateT> &&
                           std::is_same_v<typename KA::DataT, typename KB::DataT>;
-
-template <class K>
-std::vector<unsigned char> bytesOf(const Built<K>& b)
-{
-    return std::vector<unsigned char>(b.buf, b.buf + b.size);
-}
 
 }  // namespace
 

@@ -9,22 +9,6 @@
 
 using namespace iirtest;
 
-namespace {
-
-template <class K>
-std::vector<unsigned char> bytesOf(const Built<K>& b)
-{
-    return std::vector<unsigned char>(b.buf, b.buf + b.size);
-}
-
-template <class K>
-std::vector<typename K::TapT> tapsFor(const K& k, int n)
-{
-    using Tap = typename K::TapT;
-    return k.shape == Shape::AR ? arTaps<Tap>(n) : biquadTaps<Tap>(n);
-}
-
-}  // namespace
 
 TEST(IIRDlyLine, GetReturnsWhatInitAndSetWereGiven)
 {
