@@ -264,9 +264,9 @@ QspStatus sink16s(Qsp16s* dst, Qsp64s count, int norm, int scaleFactor, Qsp64s m
             });
     }
     if (norm == kUnitEnergy) {
+        const auto scale = rounding::PowerOfTwo::scaleFactor(scaleFactor);
         return run([=](Qsp64s k, Qsp64s v, double d) {
-            dst[k] = d > 0 ? rounding::toInt<rounding::kNear, Qsp16s>(rounding::ldexp(double(v) / d, -scaleFactor))
-                           : Qsp16s(0);
+            dst[k] = d > 0 ? rounding::toInt<rounding::kNear, Qsp16s>(scale(double(v) / d)) : Qsp16s(0);
         });
     }
     return run([=](Qsp64s k, Qsp64s v, double d) { dst[k] = d > 0 ? roundRatio16(v, Qsp64u(d), scaleFactor) : Qsp16s(0); });
