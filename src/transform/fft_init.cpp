@@ -37,8 +37,8 @@ Qsp8u* fillComplexTables(fft::Record* rec, int order, const fft::Octant<T>& oct,
         return at;
     }
     if (order < fft::largeFrom(sizeof(T) == 8)) {
-        fft::ownsFillPassTwiddles<T>(tw, order, oct);
-        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::passTwiddleCount<T>(Qsp64s(1) << order)));
+        fft::ownsFillMediumTwiddles<T>(tw, order, oct);
+        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::mediumTwiddleCount<T>(order)));
     }
     fft::ownsFillLargeTwiddles<T>(tw, order, oct);
     return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::largeTwiddleCount<T>(order)));

@@ -2,6 +2,7 @@
 // checks against the record, the choice of tier, normalisation, and the real
 // transforms' recombination and packed layouts.
 #pragma once
+#include "fft_medium.h"
 #include "fft_record.h"
 #include "fft_small.h"
 #include "mathfn/half.h"
@@ -95,7 +96,8 @@ void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* 
     if (order <= kSmallMax)
         ownsSmall<T, Inv>(order, false, src, dst, T(1));
     else if (order < largeFrom(sizeof(T) == 8))
-        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
+        ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
+                            halvesOf(work, n), order, tw, false, T(1));
     else
         ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
                              order, tw, false, T(0));
@@ -114,8 +116,9 @@ void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
         // The straight-line kernels scale as they store.
         ownsSmall<T, Inv>(order, scaled, src, dst, f);
     } else if (order < largeFrom(sizeof(T) == 8)) {
-        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
-        if (scaled) ownsScale(&dst->re, 2 * n, f);
+        // The last pass scales as it stores.
+        ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
+                            halvesOf(work, n), order, tw, scaled, f);
     } else {
         // The large kernel applies the factor as it stores.
         ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
@@ -169,18 +172,19 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
         return;
     }
     // The destination arrays serve as the second buffer of N values (real
-    // array = first half, imaginary array = second half); the result is
-    // gathered in the work buffer and split from there.
+    // array = first half, imaginary array = second half).
     const Halves<C<T>> dstPair{reinterpret_cast<C<T>*>(dstRe), reinterpret_cast<C<T>*>(dstIm)};
     if (order < largeFrom(sizeof(T) == 8)) {
-        for (Qsp64s i = 0; i < n; ++i) work[i] = {srcRe[i], srcIm[i]};
-        ownsFftMedium<T, Inv>({work, work + n / 2}, halvesOf(work, n), dstPair, order, tw);
-    } else {
-        const bool srcApart = apart(srcRe, dstRe, n) && apart(srcRe, dstIm, n) && apart(srcIm, dstRe, n) &&
-                              apart(srcIm, dstIm, n);
-        ownsFftLarge<T, Inv>(SplitSource<T>{srcRe, srcIm}, srcApart, dstPair, halvesOf(work, n), work, order, tw,
-                             false, T(0));
+        ownsFftMediumRun<T>(SplitIn<T, Inv>{srcRe, srcIm}, dstPair, SplitOut<T, Inv>{dstRe, dstIm}, false,
+                            halvesOf(work, n), order, tw, scaled, f);
+        return;
     }
+    // The large kernel gathers the result in the work buffer; it is split
+    // from there.
+    const bool srcApart = apart(srcRe, dstRe, n) && apart(srcRe, dstIm, n) && apart(srcIm, dstRe, n) &&
+                          apart(srcIm, dstIm, n);
+    ownsFftLarge<T, Inv>(SplitSource<T>{srcRe, srcIm}, srcApart, dstPair, halvesOf(work, n), work, order, tw, false,
+                         T(0));
     for (Qsp64s i = 0; i < n; ++i) {
         dstRe[i] = work[i].re;
         dstIm[i] = work[i].im;
