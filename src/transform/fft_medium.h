@@ -30,7 +30,7 @@
 // the inverse costs exactly what the forward transform costs and reads the
 // same tables.
 #pragma once
-#include "fft_engine.h"
+#include "fft_vectors.h"
 
 namespace fft {
 

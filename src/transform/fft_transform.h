@@ -78,20 +78,12 @@ inline void ownsScale(double* p, Qsp64s count, double f)
 
 // ---------------------------------------------------------------- complex
 
-// Whether n values at a and n values at b share no memory.
-template <class T>
-inline bool apart(const T* a, const T* b, Qsp64s n)
-{
-    const auto x = reinterpret_cast<Qsp64u>(a), y = reinterpret_cast<Qsp64u>(b);
-    const Qsp64u bytes = Qsp64u(n) * sizeof(T);
-    return x + bytes <= y || y + bytes <= x;
-}
-
 // One complex transform of 2^order values, src to dst (src may equal dst),
 // unscaled; work as the record's complex part needs it.
 template <class T, bool Inv>
-void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* tw)
+void ownsComplex(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work, int order)
 {
+    const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
     const Qsp64s n = Qsp64s(1) << order;
     if (order <= kSmallMax)
         ownsSmall<T, Inv>(order, false, src, dst, T(1));
@@ -99,8 +91,8 @@ void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* 
         ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
                             halvesOf(work, n), order, tw, false, T(1));
     else
-        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
-                             order, tw, false, T(0));
+        ownsFftLargeRun<T, Inv>(InterleavedIn<T, Inv>{src}, InterleavedMem<T>{dst}, work, largeTablesOf<T>(rec), order,
+                                false, T(1));
 }
 
 // The interleaved complex kinds.
@@ -120,9 +112,9 @@ void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
         ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
                             halvesOf(work, n), order, tw, scaled, f);
     } else {
-        // The large kernel applies the factor as it stores.
-        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
-                             order, tw, scaled, f);
+        // The row transforms apply the factor as they store.
+        ownsFftLargeRun<T, Inv>(InterleavedIn<T, Inv>{src}, InterleavedMem<T>{dst}, work, largeTablesOf<T>(rec), order,
+                                scaled, f);
     }
 }
 
@@ -179,20 +171,8 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
                             halvesOf(work, n), order, tw, scaled, f);
         return;
     }
-    // The large kernel gathers the result in the work buffer; it is split
-    // from there.
-    const bool srcApart = apart(srcRe, dstRe, n) && apart(srcRe, dstIm, n) && apart(srcIm, dstRe, n) &&
-                          apart(srcIm, dstIm, n);
-    ownsFftLarge<T, Inv>(SplitSource<T>{srcRe, srcIm}, srcApart, dstPair, halvesOf(work, n), work, order, tw, false,
-                         T(0));
-    for (Qsp64s i = 0; i < n; ++i) {
-        dstRe[i] = work[i].re;
-        dstIm[i] = work[i].im;
-    }
-    if (scaled) {
-        ownsScale(dstRe, n, f);
-        ownsScale(dstIm, n, f);
-    }
+    ownsFftLargeRun<T, Inv>(SplitIn<T, Inv>{srcRe, srcIm}, SplitMem<T>{dstRe, dstIm}, work, largeTablesOf<T>(rec), order,
+                            scaled, f);
 }
 
 // Half precision: converted into 32-bit complex values in the part of the
@@ -398,8 +378,7 @@ void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     if (order == 0) {
         dst[0] = rec->forwardNormalise ? src[0] * factorOf<T>(rec) : src[0];
     } else {
-        ownsComplex<T, false>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
-                              static_cast<const C<T>*>(rec->twiddles));
+        ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1);
         if (rec->forwardNormalise) ownsScale(dst, n, factorOf<T>(rec));
         ownsRecombine<T, false>(rec, dst, order);
     }
@@ -565,7 +544,7 @@ void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     }
     ownsRecombine<T, true>(rec, dst, order);
     C<T>* z = reinterpret_cast<C<T>*>(dst);
-    ownsComplex<T, true>(z, z, work, order - 1, static_cast<const C<T>*>(rec->twiddles));
+    ownsComplex<T, true>(rec, z, z, work, order - 1);
     if (rec->inverseNormalise) ownsScale(dst, n, factorOf<T>(rec));
 }
 
