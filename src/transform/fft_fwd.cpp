@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // FFTFwd: the forward power-of-two FFT of every kind, and the real transforms into the packed spectra.
 #include "fft_transform.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // FFTInv: the inverse power-of-two FFT of every kind, and the real transforms from the packed spectra.
 #include "fft_transform.h"
 
@@ -65,10 +66,7 @@ QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFT
 
 QspStatus qspsFFTInv_PackToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealInverseEntry<float, fft::Packed::Pack>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -78,10 +76,7 @@ QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTInv_PermToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealInverseEntry<float, fft::Packed::Perm>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -91,10 +86,7 @@ QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTInv_CCSToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealInverseEntry<float, fft::Packed::Ccs>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -104,10 +96,7 @@ QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFT
 
 QspStatus qspsFFTInv_PackToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealInverseEntry<double, fft::Packed::Pack>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -117,10 +106,7 @@ QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealInverseEntry<double, fft::Packed::Perm>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -130,10 +116,7 @@ QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealInverseEntry<double, fft::Packed::Ccs>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)

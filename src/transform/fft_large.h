@@ -49,11 +49,23 @@ struct LargeShape {
 
 inline LargeShape largeShape(int order) { return {(order + 1) / 2, order / 2}; }
 
-// Columns per batch and rows per band: a cache line of complex values.
-template <class T>
-inline constexpr Qsp64s kLargeBatch = 64 / Qsp64s(sizeof(C<T>));
+// Rows per band (and side of the transposed tiles): a cache line of complex
+// values.
 template <class T>
 inline constexpr Qsp64s kLargeBand = 64 / Qsp64s(sizeof(C<T>));
+
+// Columns per batch: R x B values in each of the column phase's two
+// buffers, about 128 KiB each (in the second-level cache), and never fewer
+// than a cache line of columns. Wide batches keep the column transforms'
+// inner loops long and make the batch-start factors (R per batch) cheap.
+template <class T>
+inline Qsp64s largeBatch(int order)
+{
+    const Qsp64s r = Qsp64s(1) << largeShape(order).rowsOrder;
+    Qsp64s b = (Qsp64s(128) << 10) / (r * Qsp64s(sizeof(C<T>)));
+    if (b < kLargeBand<T>) b = kLargeBand<T>;
+    return b;
+}
 
 // The last pass of the column transforms is radix 8 for odd rowsOrder.
 inline int columnPasses(int rowsOrder) { return (rowsOrder - mediumLastBits(rowsOrder)) / 2; }
@@ -83,7 +95,7 @@ inline Qsp64s largeTableBytes(int order)
     auto up = [](Qsp64s x) { return (x + 63) & ~Qsp64s(63); };
     return up(columnTwiddleCount(sh.rowsOrder) * Qsp64s(sizeof(C<T>))) +
            up(mediumTwiddleCount<T>(sh.colsOrder) * Qsp64s(sizeof(C<T>))) +
-           up((Qsp64s(1) << sh.rowsOrder) * kLargeBatch<T> * Qsp64s(sizeof(C<T>))) + up(fine * 16) +
+           up((Qsp64s(1) << sh.rowsOrder) * largeBatch<T>(order) * Qsp64s(sizeof(C<T>))) + up(fine * 16) +
            up((n / fine) * 16);
 }
 
@@ -94,7 +106,7 @@ inline Qsp64s largeWorkValues(int order)
 {
     const LargeShape sh = largeShape(order);
     const Qsp64s r = Qsp64s(1) << sh.rowsOrder, c = Qsp64s(1) << sh.colsOrder;
-    const Qsp64s columns = 2 * r * kLargeBatch<T> + r, rows = (kLargeBand<T> + 1) * c;
+    const Qsp64s columns = 2 * r * largeBatch<T>(order) + r, rows = (kLargeBand<T> + 1) * c;
     return columns > rows ? columns : rows;
 }
 
@@ -108,22 +120,15 @@ struct LargeTables {
     const C<double>* coarse;
 };
 
-// W_N^e in T from the coarse and fine tables: a product in double for
-// single precision, in the extended format for double precision, rounded
-// once.
+// W_N^e in T from the coarse and fine tables, the product taken in double
+// (within an ulp or two of double precision, far below single precision's).
 template <class T>
 inline C<T> largeFactor(const LargeTables<T>& t, Qsp64s e, int order)
 {
     const int fo = largeFineOrder(order);
     e &= (Qsp64s(1) << order) - 1;
     const C<double> a = t.coarse[e >> fo], b = t.fine[e & ((Qsp64s(1) << fo) - 1)];
-    if constexpr (sizeof(T) == 4) {
-        return {T(a.re * b.re - a.im * b.im), T(a.re * b.im + a.im * b.re)};
-    } else {
-        const long double re = (long double)a.re * b.re - (long double)a.im * b.im;
-        const long double im = (long double)a.re * b.im + (long double)a.im * b.re;
-        return {T(re), T(im)};
-    }
+    return {T(a.re * b.re - a.im * b.im), T(a.re * b.im + a.im * b.re)};
 }
 
 // Fills the tables at `at` (64-byte aligned) and sets their pointers; the
@@ -134,7 +139,8 @@ Qsp8u* ownsFillLargeTables(LargeTables<T>& t, Qsp8u* at, int order, const Octant
 {
     const LargeShape sh = largeShape(order);
     const Qsp64s n = Qsp64s(1) << order, r = Qsp64s(1) << sh.rowsOrder;
-    constexpr Qsp64s L = SV<T>::L, B = kLargeBatch<T>;
+    constexpr Qsp64s L = SV<T>::L;
+    const Qsp64s B = largeBatch<T>(order);
     auto w = [&](Qsp64s e) {
         const C<O> v = twiddle(oct, e << (oct.order - order));
         return C<T>{T(v.re), T(v.im)};
@@ -254,7 +260,8 @@ void ownsLargeColumns(Src src, Mem mem, C<T>* work, const LargeTables<T>& t, int
     using K = SV<T>;
     using V = typename K::V;
     using X = typename K::X;
-    constexpr Qsp64s L = K::L, B = kLargeBatch<T>;
+    constexpr Qsp64s L = K::L;
+    const Qsp64s B = largeBatch<T>(order);
     const LargeShape sh = largeShape(order);
     const Qsp64s r = Qsp64s(1) << sh.rowsOrder, c = Qsp64s(1) << sh.colsOrder, total = r * B;
     C<T>* const bufA = work;

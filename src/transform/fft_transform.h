@@ -518,6 +518,39 @@ inline QspStatus ownsRealForwardEntry(const void* spec, Kind kind, const T* src,
     return ownsRealForwardOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
+// The real inverse transforms of orders 0..5, one straight-line function
+// per order, layout and scaling: the packed spectrum read into a local
+// array in Perm order, the inverse recombination with built-in twiddles,
+// and the half-length complex kernel (scaling as it stores) into the
+// destination. Everything is read before the destination is written.
+template <class T, Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallInverse(const T* src, T* dst, T f)
+{
+    constexpr Qsp64s n = Qsp64s(1) << Order;
+    if constexpr (Order == 0) {
+        dst[0] = Scaled ? src[0] * f : src[0];
+    } else {
+        alignas(16) T z[n];
+        z[0] = src[0];
+        z[1] = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
+        for (Qsp64s i = 2; i < n; ++i) z[i] = Layout == Packed::Pack ? src[i - 1] : src[i];
+        ownsRecombineInverse<T, Order>(nullptr, z, Order);
+        ownsFftSmall<T, true, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(z), reinterpret_cast<C<T>*>(dst), f);
+    }
+    return qspStsOk;
+}
+
+// At 2 * order + scaled.
+template <class T, Packed Layout>
+inline constexpr RealSmallKernel<T> kRealSmallInverse[12] = {
+    ownsRealSmallInverse<T, Layout, 0, false>, ownsRealSmallInverse<T, Layout, 0, true>,
+    ownsRealSmallInverse<T, Layout, 1, false>, ownsRealSmallInverse<T, Layout, 1, true>,
+    ownsRealSmallInverse<T, Layout, 2, false>, ownsRealSmallInverse<T, Layout, 2, true>,
+    ownsRealSmallInverse<T, Layout, 3, false>, ownsRealSmallInverse<T, Layout, 3, true>,
+    ownsRealSmallInverse<T, Layout, 4, false>, ownsRealSmallInverse<T, Layout, 4, true>,
+    ownsRealSmallInverse<T, Layout, 5, false>, ownsRealSmallInverse<T, Layout, 5, true>,
+};
+
 template <class T>
 void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
 {
@@ -546,6 +579,27 @@ void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     C<T>* z = reinterpret_cast<C<T>*>(dst);
     ownsComplex<T, true>(rec, z, z, work, order - 1);
     if (rec->inverseNormalise) ownsScale(dst, n, factorOf<T>(rec));
+}
+
+template <class T, Packed Layout>
+__attribute__((noinline)) QspStatus ownsRealInverseOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
+{
+    ownsRealInverseCall<T>(rec, src, dst, work, Layout);
+    return qspStsOk;
+}
+
+// The real inverse kinds from their entry points, shaped as the forward
+// ones: the small orders end in a jump to their kernel.
+template <class T, Packed Layout>
+inline QspStatus ownsRealInverseEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
+{
+    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
+    const Record* rec = static_cast<const Record*>(spec);
+    const int order = rec->order;
+    if (__builtin_expect(order <= kSmallMax, 1))
+        return kRealSmallInverse<T, Layout>[2 * order + int(rec->inverseNormalise != 0)](src, dst, factorOf<T>(rec));
+    if (missingWork(rec, work)) return qspStsNullPtr;
+    return ownsRealInverseOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
 }  // namespace fft
