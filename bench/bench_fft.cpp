@@ -18,14 +18,23 @@
 //                   ratio is out-of-place time / in-place time
 //   setup_C_32fc    GetSize + Init against FFTW_ESTIMATE planning
 //
-// Runs are interleaved at random and repeated (defaults below, overridable
-// on the command line), and the fastest repetition of each case counts: on
-// a shared machine the slower ones measure the neighbours. The ratio table
-// at the end gives peer time / our time (above 1: we are faster), and a
-// summary table per kind follows it.
+//   <kind>_same     qsp and qsp_again: the same forward call measured twice,
+//                   whose ratio shows the noise of the measurement
+//
+// All contenders of one kind and order are measured together, alternating
+// in short chunks (about 30 microseconds of calls each, at least one call)
+// for a number of rounds (about 0.15 s per contender, 15 to 300 rounds),
+// and each keeps its fastest chunk: on a
+// shared machine the slower chunks measure the neighbours, and chunks this
+// short are rarely interrupted. Google Benchmark then reports each
+// contender's time per call as manual time. The ratio table at the end
+// gives peer time / our time (above 1: we are faster), and a summary table
+// per kind follows it.
 #include <fftw3.h>
 
+#include <chrono>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -222,47 +231,89 @@ typename PeerTraits<T>::Plan peerPlan(const typename PeerTraits<T>::Api* api, Se
     return reinterpret_cast<Plan>(slot);
 }
 
-void setRate(benchmark::State& state, int order)
+// The fastest chunk of every contender of one kind and order, in seconds
+// per call, measured once and kept.
+struct Contender {
+    std::string name;
+    std::function<void()> call;
+};
+
+double secondsNow()
 {
-    const double n = double(1LL << order);
-    state.counters["flops"] = benchmark::Counter(5.0 * n * order * double(state.iterations()),
-                                                 benchmark::Counter::kIsRate);
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-enum class Op { Forward, Inverse, InPlace, OutOfPlaceFlag4 };
-
-template <class T, bool Real, Op What>
-void ours(benchmark::State& state)
+std::map<std::string, double> measure(std::vector<Contender> cs)
 {
-    const int order = int(state.range(0));
+    auto chunk = [](const Contender& c, long calls) {
+        const double t0 = secondsNow();
+        for (long i = 0; i < calls; ++i) c.call();
+        return (secondsNow() - t0) / double(calls);
+    };
+    for (auto& c : cs) chunk(c, 1);  // warm up (and first-touch the buffers)
+    const double one = chunk(cs[0], 1);
+    const long calls = one > 30e-6 ? 1 : long(30e-6 / (one > 1e-9 ? one : 1e-9)) + 1;
+    // About 0.15 s per contender in all, between 15 and 300 rounds.
+    long rounds = long(0.15 / (one * double(calls)));
+    rounds = rounds < 15 ? 15 : rounds > 300 ? 300 : rounds;
+    std::map<std::string, double> best;
+    for (long r = 0; r < rounds; ++r)
+        for (const auto& c : cs) {
+            const double t = chunk(c, calls);
+            auto it = best.find(c.name);
+            if (it == best.end() || t < it->second) best[c.name] = t;
+        }
+    return best;
+}
+
+// The contenders of a kind and order, by name as registered (impl/case).
+template <class T, bool Real>
+std::map<std::string, double>& resultsOf(const std::string& kind, int order)
+{
+    static std::map<int, std::map<std::string, double>> all;
+    auto it = all.find(order);
+    if (it != all.end()) return it->second;
     Setup<T, Real>& s = setupOf<T, Real>(order);
     using O = Ours<T, Real>;
-    for (auto _ : state) {
-        if constexpr (What == Op::Forward) O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p);
-        if constexpr (What == Op::Inverse) O::inv(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p);
-        if constexpr (What == Op::InPlace) O::fwdI(s.inPlace->p, s.halved.rec, s.halved.work->p);
-        if constexpr (What == Op::OutOfPlaceFlag4) O::fwd(s.src->p, s.dst->p, s.halved.rec, s.halved.work->p);
-        benchmark::ClobberMemory();
+    std::vector<Contender> cs;
+    cs.push_back({"qsp/" + kind, [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
+    cs.push_back({"qsp_again/" + kind + "_same", [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
+    cs.push_back({"qsp/" + kind + "_inv", [&s] { O::inv(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
+    cs.push_back({"qsp/" + kind + "_I", [&s] { O::fwdI(s.inPlace->p, s.halved.rec, s.halved.work->p); }});
+    cs.push_back({"qsp_out_of_place/" + kind + "_I",
+                  [&s] { O::fwd(s.src->p, s.dst->p, s.halved.rec, s.halved.work->p); }});
+    for (int sse2 = 0; sse2 < 2; ++sse2) {
+        const auto* api = sse2 ? PeerTraits<T>::sse2() : PeerTraits<T>::system();
+        if (!api) continue;
+        const std::string peer = sse2 ? "fftw_sse2/" : "fftw/";
+        const auto fwd = peerPlan<T, Real>(api, s, false);
+        cs.push_back({peer + kind, [api, fwd] { api->execute(fwd); }});
+        if constexpr (!Real) {
+            const auto inv = peerPlan<T, Real>(api, s, true);
+            cs.push_back({peer + kind + "_inv", [api, inv] { api->execute(inv); }});
+        }
     }
-    setRate(state, order);
+    auto& r = all[order];
+    r = measure(cs);
+    // Our forward call is also the reference of the inverse: qsp_forward.
+    r["qsp_forward/" + kind + "_inv"] = r["qsp/" + kind];
+    r["qsp/" + kind + "_same"] = r["qsp/" + kind];
+    return r;
 }
 
-template <class T, bool Real, bool Sse2, bool Inverse>
-void peer(benchmark::State& state)
+template <class T, bool Real>
+void reportOne(benchmark::State& state, const std::string& kind, const std::string& name)
 {
-    const auto* api = Sse2 ? PeerTraits<T>::sse2() : PeerTraits<T>::system();
-    if (!api) {
+    const int order = int(state.range(0));
+    const auto& r = resultsOf<T, Real>(kind, order);
+    const auto it = r.find(name);
+    if (it == r.end()) {
         state.SkipWithError("peer not installed");
         return;
     }
-    const int order = int(state.range(0));
-    Setup<T, Real>& s = setupOf<T, Real>(order);
-    const auto plan = peerPlan<T, Real>(api, s, Inverse);
-    for (auto _ : state) {
-        api->execute(plan);
-        benchmark::ClobberMemory();
-    }
-    setRate(state, order);
+    for (auto _ : state) state.SetIterationTime(it->second);
+    const double n = double(1LL << order);
+    state.counters["flops"] = benchmark::Counter(5.0 * n * order / it->second);
 }
 
 // ------------------------------------------------------------ set-up
@@ -310,7 +361,9 @@ public:
         RatioReporter::ReportRuns(runs);
         for (const Run& r : runs) {
             if (r.run_type != Run::RT_Iteration || r.error_occurred) continue;
-            double& t = best_[r.benchmark_name()];
+            // Keyed impl/case/order, without the run's iteration and time-type
+            // suffixes.
+            double& t = best_[r.run_name.function_name + "/" + r.run_name.args];
             const double now = r.GetAdjustedRealTime();
             if (t == 0 || now < t) t = now;
         }
@@ -321,10 +374,10 @@ public:
         RatioReporter::Finalize();
         for (const char* kind : {"C_32fc", "C_64fc", "R_32f", "R_64f"}) {
             const bool complex = kind[0] == 'C';
-            std::printf("\n%s: peer time / qsp time; last two columns qsp in-place / out-of-place and "
-                        "inverse / forward time\n",
+            std::printf("\n%s: peer time / qsp time; then qsp in-place / out-of-place and inverse / forward "
+                        "time, and the same call measured twice (noise)\n",
                         kind);
-            std::printf("order  fwd/sse2  fwd/fftw  inv/sse2  inv/fftw   I/oop  inv/fwd\n");
+            std::printf("order  fwd/sse2  fwd/fftw  inv/sse2  inv/fftw     I/oop   inv/fwd     noise\n");
             for (int o = 0; o <= kMaxOrder; ++o) {
                 const std::string k = std::string(kind), s = "/" + std::to_string(o);
                 auto ratio = [&](const std::string& a, const std::string& b) {
@@ -344,6 +397,7 @@ public:
                 cell(complex ? ratio("fftw/" + k + "_inv" + s, "qsp/" + k + "_inv" + s) : 0.0);
                 cell(ratio("qsp/" + k + "_I" + s, "qsp_out_of_place/" + k + "_I" + s));
                 cell(ratio("qsp/" + k + "_inv" + s, "qsp_forward/" + k + "_inv" + s));
+                cell(ratio("qsp_again/" + k + "_same" + s, "qsp/" + k + "_same" + s));
                 std::printf("\n");
             }
         }
@@ -356,23 +410,21 @@ private:
 template <class T, bool Real>
 void registerKind(const char* kind)
 {
-    for (int o = 0; o <= kMaxOrder; ++o) {
-        auto add = [o](const std::string& name, void (*fn)(benchmark::State&)) {
-            benchmark::RegisterBenchmark(name.c_str(), fn)->Arg(o);
-        };
-        const std::string k = kind;
-        add("qsp/" + k, ours<T, Real, Op::Forward>);
-        add("fftw_sse2/" + k, peer<T, Real, true, false>);
-        add("fftw/" + k, peer<T, Real, false, false>);
-        add("qsp/" + k + "_inv", ours<T, Real, Op::Inverse>);
-        add("qsp_forward/" + k + "_inv", ours<T, Real, Op::Forward>);
-        if constexpr (!Real) {
-            add("fftw_sse2/" + k + "_inv", peer<T, Real, true, true>);
-            add("fftw/" + k + "_inv", peer<T, Real, false, true>);
-        }
-        add("qsp/" + k + "_I", ours<T, Real, Op::InPlace>);
-        add("qsp_out_of_place/" + k + "_I", ours<T, Real, Op::OutOfPlaceFlag4>);
+    const std::string k = kind;
+    std::vector<std::string> names = {"qsp/" + k, "qsp_again/" + k + "_same", "qsp/" + k + "_same",
+                                      "fftw_sse2/" + k, "fftw/" + k, "qsp/" + k + "_inv", "qsp_forward/" + k + "_inv",
+                                      "qsp/" + k + "_I", "qsp_out_of_place/" + k + "_I"};
+    if constexpr (!Real) {
+        names.push_back("fftw_sse2/" + k + "_inv");
+        names.push_back("fftw/" + k + "_inv");
     }
+    for (int o = 0; o <= kMaxOrder; ++o)
+        for (const std::string& name : names)
+            benchmark::RegisterBenchmark(name.c_str(),
+                                         [k, name](benchmark::State& st) { reportOne<T, Real>(st, k, name); })
+                ->Arg(o)
+                ->UseManualTime()
+                ->Iterations(1);
 }
 
 }  // namespace
@@ -389,14 +441,7 @@ int main(int argc, char** argv)
         benchmark::RegisterBenchmark("qsp/setup_C_32fc", qspSetup)->Arg(o);
         benchmark::RegisterBenchmark("fftw/setup_C_32fc", fftwSetup)->Arg(o);
     }
-    // Defaults first, so that the command line overrides them.
-    std::vector<char*> args{argv[0]};
-    std::string defaults[] = {"--benchmark_enable_random_interleaving=true", "--benchmark_repetitions=5",
-                              "--benchmark_min_time=0.02"};
-    for (auto& d : defaults) args.push_back(d.data());
-    for (int i = 1; i < argc; ++i) args.push_back(argv[i]);
-    int count = int(args.size());
-    benchmark::Initialize(&count, args.data());
+    benchmark::Initialize(&argc, argv);
     SummaryReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();

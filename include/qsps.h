@@ -1188,9 +1188,9 @@ QspStatus qspsFFTGetSize_R_64f(int order, int flag, QspHintAlgorithm hint, int* 
  *   Qsp8u* init = initSize ? qspsMalloc_8u(initSize) : NULL;
  *   Qsp8u* work = workSize ? qspsMalloc_8u(workSize) : NULL;
  *   qspsFFTInit_C_32fc(&fft, 10, 2, 0, spec, init);
- *   qspsFree(init);                         /* Init's alone */
- *   qspsFFTFwd_CToC_32fc(x, X, fft, work);  /* as often as needed */
- *   qspsFFTInv_CToC_32fc(X, x, fft, work);  /* x again */
+ *   qspsFree(init);                         // Init's alone
+ *   qspsFFTFwd_CToC_32fc(x, X, fft, work);  // as often as needed
+ *   qspsFFTInv_CToC_32fc(X, x, fft, work);  // x again
  *   qspsFree(work);
  *   qspsFree(spec);
  */

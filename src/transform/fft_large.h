@@ -253,6 +253,8 @@ struct SplitMem {
 
 // ---------------------------------------------------------------- columns
 
+constexpr Qsp64s kColumnAhead = 8;
+
 // Step 1 for all batches: src (a first-pass view, element C a + b) to mem.
 template <class T, class Src, class Mem>
 void ownsLargeColumns(Src src, Mem mem, C<T>* work, const LargeTables<T>& t, int order)
@@ -270,8 +272,11 @@ void ownsLargeColumns(Src src, Mem mem, C<T>* work, const LargeTables<T>& t, int
     const int lastBits = mediumLastBits(sh.rowsOrder);
     const Qsp64s s = total >> lastBits, rows = r >> lastBits;
     for (Qsp64s b0 = 0; b0 < c; b0 += B) {
+        // Rows are C values apart, each read on a page of its own: their
+        // pieces are asked for kColumnAhead rows ahead.
         for (Qsp64s a = 0; a < r; ++a) {
             const Qsp64s from = c * a + b0;
+            if (a + kColumnAhead < r) src.prefetch(from + kColumnAhead * c, B);
             for (Qsp64s j = 0; j < B; j += L) K::template store<false>(bufA + a * B + j, src.load(from + j));
         }
         for (Qsp64s k1 = 0; k1 < r; ++k1) start[k1] = largeFactor<T>(t, k1 * b0, order);

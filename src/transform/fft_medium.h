@@ -46,6 +46,11 @@ struct InterleavedIn {
         const typename SV<T>::X v = SV<T>::template load<true>(p + i);
         return Swap ? typename SV<T>::X{v.im, v.re} : v;
     }
+    // Asks for the cache lines of count values from element i.
+    void prefetch(Qsp64s i, Qsp64s count) const
+    {
+        for (Qsp64s k = 0; k < count; k += 64 / Qsp64s(sizeof(C<T>))) simd::prefetch(p + i + k);
+    }
 };
 
 template <class T, bool Swap>
@@ -56,6 +61,13 @@ struct SplitIn {
     {
         const auto r = SV<T>::V::loadu(re + i), m = SV<T>::V::loadu(im + i);
         return Swap ? typename SV<T>::X{m, r} : typename SV<T>::X{r, m};
+    }
+    void prefetch(Qsp64s i, Qsp64s count) const
+    {
+        for (Qsp64s k = 0; k < count; k += 64 / Qsp64s(sizeof(T))) {
+            simd::prefetch(re + i + k);
+            simd::prefetch(im + i + k);
+        }
     }
 };
 

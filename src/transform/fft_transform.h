@@ -59,63 +59,32 @@ inline bool normalises(const Record* rec)
     return (Inv ? rec->inverseNormalise : rec->forwardNormalise) != 0;
 }
 
-// ---------------------------------------------------------------- scaling
-
-inline void ownsScale(float* p, Qsp64s count, float f)
-{
-    // Counts are at most 2^29 floats here, within int.
-    y8::qspsMulC_32f_I(f, p, static_cast<int>(count));
-}
-
-inline void ownsScale(double* p, Qsp64s count, double f)
-{
-    using V = simd::Vec<double>;
-    const auto c = V::splat(f);
-    Qsp64s i = 0;
-    for (; i + 2 <= count; i += 2) V::storeu(p + i, V::mul(V::loadu(p + i), c));
-    for (; i < count; ++i) p[i] *= f;
-}
-
 // ---------------------------------------------------------------- complex
 
 // One complex transform of 2^order values, src to dst (src may equal dst),
-// unscaled; work as the record's complex part needs it.
+// each result multiplied by f when scaled; work as the record's complex part
+// needs it. The straight-line kernels, the medium tier's last pass and the
+// large tier's row transforms apply the factor as they store.
 template <class T, bool Inv>
-void ownsComplex(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work, int order)
+void ownsComplex(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work, int order, bool scaled, T f)
 {
     const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
     const Qsp64s n = Qsp64s(1) << order;
     if (order <= kSmallMax)
-        ownsSmall<T, Inv>(order, false, src, dst, T(1));
+        ownsSmall<T, Inv>(order, scaled, src, dst, f);
     else if (order < largeFrom(sizeof(T) == 8))
         ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
-                            halvesOf(work, n), order, tw, false, T(1));
+                            halvesOf(work, n), order, tw, scaled, f);
     else
         ownsFftLargeRun<T, Inv>(InterleavedIn<T, Inv>{src}, InterleavedMem<T>{dst}, work, largeTablesOf<T>(rec), order,
-                                false, T(1));
+                                scaled, f);
 }
 
 // The interleaved complex kinds.
 template <class T, bool Inv>
 void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
 {
-    const int order = rec->order;
-    const Qsp64s n = Qsp64s(1) << order;
-    const bool scaled = normalises<Inv>(rec);
-    const T f = factorOf<T>(rec);
-    const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
-    if (order <= kSmallMax) {
-        // The straight-line kernels scale as they store.
-        ownsSmall<T, Inv>(order, scaled, src, dst, f);
-    } else if (order < largeFrom(sizeof(T) == 8)) {
-        // The last pass scales as it stores.
-        ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
-                            halvesOf(work, n), order, tw, scaled, f);
-    } else {
-        // The row transforms apply the factor as they store.
-        ownsFftLargeRun<T, Inv>(InterleavedIn<T, Inv>{src}, InterleavedMem<T>{dst}, work, largeTablesOf<T>(rec), order,
-                                scaled, f);
-    }
+    ownsComplex<T, Inv>(rec, src, dst, work, rec->order, normalises<Inv>(rec), factorOf<T>(rec));
 }
 
 // The interleaved complex kinds from their entry points: the small orders
@@ -378,8 +347,8 @@ void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     if (order == 0) {
         dst[0] = rec->forwardNormalise ? src[0] * factorOf<T>(rec) : src[0];
     } else {
-        ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1);
-        if (rec->forwardNormalise) ownsScale(dst, n, factorOf<T>(rec));
+        ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
+                              rec->forwardNormalise != 0, factorOf<T>(rec));
         ownsRecombine<T, false>(rec, dst, order);
     }
     if (layout == Packed::Pack && n >= 4) {
@@ -577,8 +546,7 @@ void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     }
     ownsRecombine<T, true>(rec, dst, order);
     C<T>* z = reinterpret_cast<C<T>*>(dst);
-    ownsComplex<T, true>(rec, z, z, work, order - 1);
-    if (rec->inverseNormalise) ownsScale(dst, n, factorOf<T>(rec));
+    ownsComplex<T, true>(rec, z, z, work, order - 1, rec->inverseNormalise != 0, factorOf<T>(rec));
 }
 
 template <class T, Packed Layout>
