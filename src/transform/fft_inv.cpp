@@ -66,7 +66,7 @@ QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFT
 
 QspStatus qspsFFTInv_PackToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealInverseEntry<float, fft::Packed::Pack>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<float, fft::Packed::Pack, true>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -76,7 +76,7 @@ QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTInv_PermToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealInverseEntry<float, fft::Packed::Perm>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<float, fft::Packed::Perm, true>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -86,7 +86,7 @@ QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTInv_CCSToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealInverseEntry<float, fft::Packed::Ccs>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<float, fft::Packed::Ccs, true>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -96,7 +96,7 @@ QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFT
 
 QspStatus qspsFFTInv_PackToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealInverseEntry<double, fft::Packed::Pack>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<double, fft::Packed::Pack, true>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -106,7 +106,7 @@ QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealInverseEntry<double, fft::Packed::Perm>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<double, fft::Packed::Perm, true>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -116,7 +116,7 @@ QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealInverseEntry<double, fft::Packed::Ccs>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<double, fft::Packed::Ccs, true>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)

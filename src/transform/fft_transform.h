@@ -465,28 +465,6 @@ inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
     kRealSmallForwardOne<T, Layout, 5, false>, kRealSmallForwardOne<T, Layout, 5, true>,
 };
 
-template <class T, Packed Layout>
-__attribute__((noinline)) QspStatus ownsRealForwardOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
-{
-    ownsRealForwardCall<T>(rec, src, dst, work, Layout);
-    return qspStsOk;
-}
-
-// The real forward kinds from their entry points: the small orders end in a
-// jump to their kernel. As for the complex kinds, only the other orders test
-// the work buffer.
-template <class T, Packed Layout>
-inline QspStatus ownsRealForwardEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
-{
-    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
-    const Record* rec = static_cast<const Record*>(spec);
-    const int order = rec->order;
-    if (__builtin_expect(order <= kSmallMax, 1))
-        return kRealSmallForward<T, Layout>[2 * order + int(rec->forwardNormalise != 0)](src, dst, factorOf<T>(rec));
-    if (missingWork(rec, work)) return qspStsNullPtr;
-    return ownsRealForwardOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
-}
-
 // The real inverse transforms of orders 0..5, one straight-line function
 // per order, layout and scaling: the packed spectrum read into a local
 // array in Perm order, the inverse recombination with built-in twiddles,
@@ -549,25 +527,32 @@ void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     ownsComplex<T, true>(rec, z, z, work, order - 1, rec->inverseNormalise != 0, factorOf<T>(rec));
 }
 
-template <class T, Packed Layout>
-__attribute__((noinline)) QspStatus ownsRealInverseOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
+template <class T, Packed Layout, bool Inverse>
+__attribute__((noinline)) QspStatus ownsRealOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
 {
-    ownsRealInverseCall<T>(rec, src, dst, work, Layout);
+    if constexpr (Inverse)
+        ownsRealInverseCall<T>(rec, src, dst, work, Layout);
+    else
+        ownsRealForwardCall<T>(rec, src, dst, work, Layout);
     return qspStsOk;
 }
 
-// The real inverse kinds from their entry points, shaped as the forward
-// ones: the small orders end in a jump to their kernel.
-template <class T, Packed Layout>
-inline QspStatus ownsRealInverseEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
+// The real kinds from their entry points, in either direction: the small
+// orders end in a jump to their kernel. As for the complex kinds, only the
+// other orders test the work buffer.
+template <class T, Packed Layout, bool Inverse>
+inline QspStatus ownsRealEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
 {
     if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
     const Record* rec = static_cast<const Record*>(spec);
     const int order = rec->order;
-    if (__builtin_expect(order <= kSmallMax, 1))
-        return kRealSmallInverse<T, Layout>[2 * order + int(rec->inverseNormalise != 0)](src, dst, factorOf<T>(rec));
+    if (__builtin_expect(order <= kSmallMax, 1)) {
+        const bool scaled = (Inverse ? rec->inverseNormalise : rec->forwardNormalise) != 0;
+        const RealSmallKernel<T>* kernels = Inverse ? kRealSmallInverse<T, Layout> : kRealSmallForward<T, Layout>;
+        return kernels[2 * order + int(scaled)](src, dst, factorOf<T>(rec));
+    }
     if (missingWork(rec, work)) return qspStsNullPtr;
-    return ownsRealInverseOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
+    return ownsRealOutOfLine<T, Layout, Inverse>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
 }  // namespace fft
