@@ -1,158 +1,319 @@
 // SPDX-License-Identifier: BSD-3-Clause
-// Power-of-two FFTs against FFTW 3 (plans made with FFTW_MEASURE, single
-// thread, same direction and placement): complex single and double
-// precision and real single precision, orders 0..22; and the record set-up
-// (GetSize + Init) against FFTW_ESTIMATE planning at the same orders. Each
-// case runs right after its twin, so that both see the same machine state.
-// Each benchmark reports the conventional rate 5 N log2(N) / t as "flops";
-// the ratio table at the end gives FFTW time / our time.
+// Power-of-two FFTs against FFTW 3, orders 0..22 of every kind: complex
+// single and double precision (C_32fc, C_64fc) and real single and double
+// precision into CCS (R_32f, R_64f, against FFTW's r2c). Two peers: the
+// FFTW built with 128-bit SSE2 codelets only (fftw_sse2, the same vector
+// width as ours; skipped when it is not installed) and the system FFTW
+// (fftw, which uses 256-bit AVX). Plans are made with FFTW_MEASURE, single
+// thread, out of place, in the same direction.
+//
+// Cases, each <impl>/<case>/<order>:
+//   <kind>          forward, out of place: qsp, fftw_sse2, fftw
+//   <kind>_inv      inverse, out of place: qsp and, for the complex kinds,
+//                   both peers; qsp_forward is our forward transform, so its
+//                   ratio is forward time / inverse time
+//   <kind>_I        forward in place (flag 4, so that repeated transforms of
+//                   the same array keep its size): qsp, and
+//                   qsp_out_of_place, the same record out of place, whose
+//                   ratio is out-of-place time / in-place time
+//   setup_C_32fc    GetSize + Init against FFTW_ESTIMATE planning
+//
+//   <kind>_same     qsp and qsp_again: the same forward call measured twice,
+//                   whose ratio shows the noise of the measurement
+//
+// All contenders of one kind and order are measured together, alternating
+// in short chunks (about 30 microseconds of calls each, at least one call)
+// for a number of rounds (about 0.15 s per contender, 15 to 300 rounds),
+// and each keeps its fastest chunk: on a
+// shared machine the slower chunks measure the neighbours, and chunks this
+// short are rarely interrupted. Google Benchmark then reports each
+// contender's time per call as manual time. The ratio table at the end
+// gives peer time / our time (above 1: we are faster), and a summary table
+// per kind follows it.
 #include <fftw3.h>
 
+#include <chrono>
 #include <cstring>
+#include <functional>
+#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "fftw_sse2.h"
 #include "qsps.h"
 #include "ratio_reporter.h"
 
 namespace {
 
-constexpr int kMinOrder = 0, kMaxOrder = 22;
+constexpr int kMaxOrder = 22;
 
-void setRate(benchmark::State& state, int order)
-{
-    const double n = double(1LL << order);
-    state.counters["flops"] = benchmark::Counter(5.0 * n * order * double(state.iterations()),
-                                                 benchmark::Counter::kIsRate);
-}
+// ------------------------------------------------------------ peers
 
+// One FFTW library of one precision: the SSE2-only build loaded at run time,
+// or the system library linked in.
+template <class T>
+struct PeerTraits;
+
+template <>
+struct PeerTraits<float> {
+    using Api = qspbench::FftwSse2f;
+    using Complex = fftwf_complex;
+    using Plan = fftwf_plan;
+    static const Api* sse2() { return qspbench::fftwSse2f().available() ? &qspbench::fftwSse2f() : nullptr; }
+    static const Api* system()
+    {
+        static const Api api = [] {
+            Api a;
+            a.version = fftwf_version;
+            a.plan_dft_1d = fftwf_plan_dft_1d;
+            a.plan_dft_r2c_1d = fftwf_plan_dft_r2c_1d;
+            a.execute = fftwf_execute;
+            a.destroy_plan = fftwf_destroy_plan;
+            return a;
+        }();
+        return &api;
+    }
+};
+
+template <>
+struct PeerTraits<double> {
+    using Api = qspbench::FftwSse2d;
+    using Complex = fftw_complex;
+    using Plan = fftw_plan;
+    static const Api* sse2() { return qspbench::fftwSse2d().available() ? &qspbench::fftwSse2d() : nullptr; }
+    static const Api* system()
+    {
+        static const Api api = [] {
+            Api a;
+            a.version = fftw_version;
+            a.plan_dft_1d = fftw_plan_dft_1d;
+            a.plan_dft_r2c_1d = fftw_plan_dft_r2c_1d;
+            a.execute = fftw_execute;
+            a.destroy_plan = fftw_destroy_plan;
+            return a;
+        }();
+        return &api;
+    }
+};
+
+// ------------------------------------------------------------ the library
+
+// The library's calls of one kind through one shape: getSize, init, and the
+// forward, inverse and in-place forward transforms on raw pointers.
+template <class T, bool Real>
+struct Ours;
+
+template <>
+struct Ours<float, false> {
+    using Spec = QspsFFTSpec_C_32fc;
+    static constexpr auto getSize = qspsFFTGetSize_C_32fc;
+    static constexpr auto init = qspsFFTInit_C_32fc;
+    static void fwd(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTFwd_CToC_32fc((const Qsp32fc*)s, (Qsp32fc*)d, r, w); }
+    static void inv(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTInv_CToC_32fc((const Qsp32fc*)s, (Qsp32fc*)d, r, w); }
+    static void fwdI(void* sd, const Spec* r, Qsp8u* w) { qspsFFTFwd_CToC_32fc_I((Qsp32fc*)sd, r, w); }
+};
+
+template <>
+struct Ours<double, false> {
+    using Spec = QspsFFTSpec_C_64fc;
+    static constexpr auto getSize = qspsFFTGetSize_C_64fc;
+    static constexpr auto init = qspsFFTInit_C_64fc;
+    static void fwd(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTFwd_CToC_64fc((const Qsp64fc*)s, (Qsp64fc*)d, r, w); }
+    static void inv(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTInv_CToC_64fc((const Qsp64fc*)s, (Qsp64fc*)d, r, w); }
+    static void fwdI(void* sd, const Spec* r, Qsp8u* w) { qspsFFTFwd_CToC_64fc_I((Qsp64fc*)sd, r, w); }
+};
+
+template <>
+struct Ours<float, true> {
+    using Spec = QspsFFTSpec_R_32f;
+    static constexpr auto getSize = qspsFFTGetSize_R_32f;
+    static constexpr auto init = qspsFFTInit_R_32f;
+    static void fwd(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTFwd_RToCCS_32f((const Qsp32f*)s, (Qsp32f*)d, r, w); }
+    static void inv(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTInv_CCSToR_32f((const Qsp32f*)s, (Qsp32f*)d, r, w); }
+    static void fwdI(void* sd, const Spec* r, Qsp8u* w) { qspsFFTFwd_RToCCS_32f_I((Qsp32f*)sd, r, w); }
+};
+
+template <>
+struct Ours<double, true> {
+    using Spec = QspsFFTSpec_R_64f;
+    static constexpr auto getSize = qspsFFTGetSize_R_64f;
+    static constexpr auto init = qspsFFTInit_R_64f;
+    static void fwd(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTFwd_RToCCS_64f((const Qsp64f*)s, (Qsp64f*)d, r, w); }
+    static void inv(const void* s, void* d, const Spec* r, Qsp8u* w) { qspsFFTInv_CCSToR_64f((const Qsp64f*)s, (Qsp64f*)d, r, w); }
+    static void fwdI(void* sd, const Spec* r, Qsp8u* w) { qspsFFTFwd_RToCCS_64f_I((Qsp64f*)sd, r, w); }
+};
+
+// A block of the library's aligned memory, zero-filled.
 struct Block {
-    explicit Block(long long bytes) : p(bytes ? qspsMalloc_8u_L(bytes) : nullptr)
+    explicit Block(long long bytes) : p(bytes > 0 ? qspsMalloc_8u_L(bytes) : nullptr)
     {
         if (p) std::memset(p, 0, size_t(bytes));
     }
     ~Block() { qspsFree(p); }
+    Block(const Block&) = delete;
+    Block& operator=(const Block&) = delete;
     Qsp8u* p;
 };
 
-// ------------------------------------------------------------ complex
-
-// The library's and FFTW's interfaces for one complex precision.
-template <class T>
-struct Complex;
-
-template <>
-struct Complex<float> {
-    using Value = Qsp32fc;
-    using Spec = QspsFFTSpec_C_32fc;
-    using PeerValue = fftwf_complex;
-    using Plan = fftwf_plan;
-    static constexpr auto getSize = qspsFFTGetSize_C_32fc;
-    static constexpr auto init = qspsFFTInit_C_32fc;
-    static constexpr auto forward = qspsFFTFwd_CToC_32fc;
-    static constexpr auto alloc = qspsMalloc_32fc;
-    static PeerValue* peerAlloc(int n) { return fftwf_alloc_complex(n); }
-    static Plan plan(int n, PeerValue* s, PeerValue* d) { return fftwf_plan_dft_1d(n, s, d, FFTW_FORWARD, FFTW_MEASURE); }
-    static void execute(Plan p) { fftwf_execute(p); }
-    static void destroy(Plan p) { fftwf_destroy_plan(p); }
-    static void peerFree(PeerValue* p) { fftwf_free(p); }
+// A record of one kind, order and flag with its work buffer.
+template <class T, bool Real>
+struct Record {
+    Record(int order, int flag)
+    {
+        int s = 0, i = 0, w = 0;
+        Ours<T, Real>::getSize(order, flag, 0, &s, &i, &w);
+        spec = std::make_unique<Block>(s);
+        work = std::make_unique<Block>(w);
+        Block init(i);
+        Ours<T, Real>::init(&rec, order, flag, 0, spec->p, init.p);
+    }
+    std::unique_ptr<Block> spec, work;
+    typename Ours<T, Real>::Spec* rec = nullptr;
 };
 
-template <>
-struct Complex<double> {
-    using Value = Qsp64fc;
-    using Spec = QspsFFTSpec_C_64fc;
-    using PeerValue = fftw_complex;
-    using Plan = fftw_plan;
-    static constexpr auto getSize = qspsFFTGetSize_C_64fc;
-    static constexpr auto init = qspsFFTInit_C_64fc;
-    static constexpr auto forward = qspsFFTFwd_CToC_64fc;
-    static constexpr auto alloc = qspsMalloc_64fc;
-    static PeerValue* peerAlloc(int n) { return fftw_alloc_complex(n); }
-    static Plan plan(int n, PeerValue* s, PeerValue* d) { return fftw_plan_dft_1d(n, s, d, FFTW_FORWARD, FFTW_MEASURE); }
-    static void execute(Plan p) { fftw_execute(p); }
-    static void destroy(Plan p) { fftw_destroy_plan(p); }
-    static void peerFree(PeerValue* p) { fftw_free(p); }
+// Everything one kind and order shares: the records, the arrays (the
+// source keeps its values; out-of-place calls write only the destination;
+// in-place calls have an array of their own) and the peers' plans, all
+// made once and kept for the whole run.
+template <class T, bool Real>
+struct Setup {
+    explicit Setup(int order) : n(1LL << order), plain(order, 8), halved(order, 4)
+    {
+        // Values per array: N complex or N + 2 real (the CCS spectrum).
+        const long long values = Real ? n + 2 : 2 * n;
+        src = std::make_unique<Block>(values * (long long)sizeof(T));
+        dst = std::make_unique<Block>(values * (long long)sizeof(T));
+        inPlace = std::make_unique<Block>(values * (long long)sizeof(T));
+        fill(src->p, values);
+        fill(inPlace->p, values);
+    }
+    static void fill(Qsp8u* p, long long values)
+    {
+        T* v = reinterpret_cast<T*>(p);
+        for (long long k = 0; k < values; ++k) v[k] = T(k % 7) - T(3) + T(k % 5) * T(0.25);
+    }
+    long long n;
+    Record<T, Real> plain, halved;
+    std::unique_ptr<Block> src, dst, inPlace;
+    // Plans by (peer, inverse).
+    std::map<std::pair<const void*, bool>, void*> plans;
 };
 
-template <class T>
-void qspComplex(benchmark::State& state)
+template <class T, bool Real>
+Setup<T, Real>& setupOf(int order)
 {
-    using A = Complex<T>;
-    const int order = int(state.range(0));
-    const int n = 1 << order;
-    int s, i, w;
-    A::getSize(order, 8, 0, &s, &i, &w);
-    Block spec(s), init(i), work(w);
-    typename A::Spec* rec;
-    A::init(&rec, order, 8, 0, spec.p, init.p);
-    typename A::Value* src = A::alloc(n);
-    typename A::Value* dst = A::alloc(n);
-    for (int k = 0; k < n; ++k) src[k] = {T(k % 7) - 3, T(k % 5) - 2};
-    for (auto _ : state) {
-        A::forward(src, dst, rec, work.p);
-        benchmark::ClobberMemory();
-    }
-    setRate(state, order);
-    qspsFree(src), qspsFree(dst);
+    static std::map<int, std::unique_ptr<Setup<T, Real>>> all;
+    auto& s = all[order];
+    if (!s) s = std::make_unique<Setup<T, Real>>(order);
+    return *s;
 }
 
-template <class T>
-void fftwComplex(benchmark::State& state)
+// The peer's plan for a case, made with FFTW_MEASURE on the shared arrays
+// (planning overwrites them, so the source is filled again afterwards).
+template <class T, bool Real>
+typename PeerTraits<T>::Plan peerPlan(const typename PeerTraits<T>::Api* api, Setup<T, Real>& s, bool inverse)
 {
-    using A = Complex<T>;
-    const int order = int(state.range(0));
-    const int n = 1 << order;
-    typename A::PeerValue* src = A::peerAlloc(n);
-    typename A::PeerValue* dst = A::peerAlloc(n);
-    typename A::Plan p = A::plan(n, src, dst);
-    for (int k = 0; k < n; ++k) src[k][0] = T(k % 7) - 3, src[k][1] = T(k % 5) - 2;
-    for (auto _ : state) {
-        A::execute(p);
-        benchmark::ClobberMemory();
+    using Complex = typename PeerTraits<T>::Complex;
+    using Plan = typename PeerTraits<T>::Plan;
+    void*& slot = s.plans[{api, inverse}];
+    if (!slot) {
+        Plan p;
+        if constexpr (Real)
+            p = api->plan_dft_r2c_1d(int(s.n), reinterpret_cast<T*>(s.src->p), reinterpret_cast<Complex*>(s.dst->p),
+                                     FFTW_MEASURE);
+        else
+            p = api->plan_dft_1d(int(s.n), reinterpret_cast<Complex*>(s.src->p), reinterpret_cast<Complex*>(s.dst->p),
+                                 inverse ? FFTW_BACKWARD : FFTW_FORWARD, FFTW_MEASURE);
+        Setup<T, Real>::fill(s.src->p, Real ? s.n + 2 : 2 * s.n);
+        slot = reinterpret_cast<void*>(p);
     }
-    setRate(state, order);
-    A::destroy(p);
-    A::peerFree(src), A::peerFree(dst);
+    return reinterpret_cast<Plan>(slot);
 }
 
-// ------------------------------------------------------------ real 32f
+// The fastest chunk of every contender of one kind and order, in seconds
+// per call, measured once and kept.
+struct Contender {
+    std::string name;
+    std::function<void()> call;
+};
 
-void qspR32(benchmark::State& state)
+double secondsNow()
 {
-    const int order = int(state.range(0));
-    const int n = 1 << order;
-    int s, i, w;
-    qspsFFTGetSize_R_32f(order, 8, 0, &s, &i, &w);
-    Block spec(s), init(i), work(w);
-    QspsFFTSpec_R_32f* rec;
-    qspsFFTInit_R_32f(&rec, order, 8, 0, spec.p, init.p);
-    Qsp32f* src = qspsMalloc_32f(n);
-    Qsp32f* dst = qspsMalloc_32f(n + 2);
-    for (int k = 0; k < n; ++k) src[k] = float(k % 7) - 3.0f;
-    for (auto _ : state) {
-        qspsFFTFwd_RToCCS_32f(src, dst, rec, work.p);
-        benchmark::ClobberMemory();
-    }
-    setRate(state, order);
-    qspsFree(src), qspsFree(dst);
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-void fftwR32(benchmark::State& state)
+std::map<std::string, double> measure(std::vector<Contender> cs)
+{
+    auto chunk = [](const Contender& c, long calls) {
+        const double t0 = secondsNow();
+        for (long i = 0; i < calls; ++i) c.call();
+        return (secondsNow() - t0) / double(calls);
+    };
+    for (auto& c : cs) chunk(c, 1);  // warm up (and first-touch the buffers)
+    const double one = chunk(cs[0], 1);
+    const long calls = one > 30e-6 ? 1 : long(30e-6 / (one > 1e-9 ? one : 1e-9)) + 1;
+    // About 0.15 s per contender in all, between 15 and 300 rounds.
+    long rounds = long(0.15 / (one * double(calls)));
+    rounds = rounds < 15 ? 15 : rounds > 300 ? 300 : rounds;
+    std::map<std::string, double> best;
+    for (long r = 0; r < rounds; ++r)
+        for (const auto& c : cs) {
+            const double t = chunk(c, calls);
+            auto it = best.find(c.name);
+            if (it == best.end() || t < it->second) best[c.name] = t;
+        }
+    return best;
+}
+
+// The contenders of a kind and order, by name as registered (impl/case).
+template <class T, bool Real>
+std::map<std::string, double>& resultsOf(const std::string& kind, int order)
+{
+    static std::map<int, std::map<std::string, double>> all;
+    auto it = all.find(order);
+    if (it != all.end()) return it->second;
+    Setup<T, Real>& s = setupOf<T, Real>(order);
+    using O = Ours<T, Real>;
+    std::vector<Contender> cs;
+    cs.push_back({"qsp/" + kind, [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
+    cs.push_back({"qsp_again/" + kind + "_same", [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
+    cs.push_back({"qsp/" + kind + "_inv", [&s] { O::inv(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
+    cs.push_back({"qsp/" + kind + "_I", [&s] { O::fwdI(s.inPlace->p, s.halved.rec, s.halved.work->p); }});
+    cs.push_back({"qsp_out_of_place/" + kind + "_I",
+                  [&s] { O::fwd(s.src->p, s.dst->p, s.halved.rec, s.halved.work->p); }});
+    for (int sse2 = 0; sse2 < 2; ++sse2) {
+        const auto* api = sse2 ? PeerTraits<T>::sse2() : PeerTraits<T>::system();
+        if (!api) continue;
+        const std::string peer = sse2 ? "fftw_sse2/" : "fftw/";
+        const auto fwd = peerPlan<T, Real>(api, s, false);
+        cs.push_back({peer + kind, [api, fwd] { api->execute(fwd); }});
+        if constexpr (!Real) {
+            const auto inv = peerPlan<T, Real>(api, s, true);
+            cs.push_back({peer + kind + "_inv", [api, inv] { api->execute(inv); }});
+        }
+    }
+    auto& r = all[order];
+    r = measure(cs);
+    // Our forward call is also the reference of the inverse: qsp_forward.
+    r["qsp_forward/" + kind + "_inv"] = r["qsp/" + kind];
+    r["qsp/" + kind + "_same"] = r["qsp/" + kind];
+    return r;
+}
+
+template <class T, bool Real>
+void reportOne(benchmark::State& state, const std::string& kind, const std::string& name)
 {
     const int order = int(state.range(0));
-    const int n = 1 << order;
-    float* src = fftwf_alloc_real(n);
-    fftwf_complex* dst = fftwf_alloc_complex(n / 2 + 1);
-    fftwf_plan p = fftwf_plan_dft_r2c_1d(n, src, dst, FFTW_MEASURE);
-    for (int k = 0; k < n; ++k) src[k] = float(k % 7) - 3.0f;
-    for (auto _ : state) {
-        fftwf_execute(p);
-        benchmark::ClobberMemory();
+    const auto& r = resultsOf<T, Real>(kind, order);
+    const auto it = r.find(name);
+    if (it == r.end()) {
+        state.SkipWithError("peer not installed");
+        return;
     }
-    setRate(state, order);
-    fftwf_destroy_plan(p);
-    fftwf_free(src), fftwf_free(dst);
+    for (auto _ : state) state.SetIterationTime(it->second);
+    const double n = double(1LL << order);
+    state.counters["flops"] = benchmark::Counter(5.0 * n * order / it->second);
 }
 
 // ------------------------------------------------------------ set-up
@@ -187,26 +348,102 @@ void fftwSetup(benchmark::State& state)
     fftwf_free(src), fftwf_free(dst);
 }
 
+// ------------------------------------------------------------ summary
+
+// The ratio table of the base reporter, then one table per kind with the
+// orders as rows: forward against each peer, inverse against each peer
+// (complex kinds), and our in-place and inverse times against our own
+// out-of-place forward ones.
+class SummaryReporter : public qspbench::RatioReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        RatioReporter::ReportRuns(runs);
+        for (const Run& r : runs) {
+            if (r.run_type != Run::RT_Iteration || r.error_occurred) continue;
+            // Keyed impl/case/order, without the run's iteration and time-type
+            // suffixes.
+            double& t = best_[r.run_name.function_name + "/" + r.run_name.args];
+            const double now = r.GetAdjustedRealTime();
+            if (t == 0 || now < t) t = now;
+        }
+    }
+
+    void Finalize() override
+    {
+        RatioReporter::Finalize();
+        for (const char* kind : {"C_32fc", "C_64fc", "R_32f", "R_64f"}) {
+            const bool complex = kind[0] == 'C';
+            std::printf("\n%s: peer time / qsp time; then qsp in-place / out-of-place and inverse / forward "
+                        "time, and the same call measured twice (noise)\n",
+                        kind);
+            std::printf("order  fwd/sse2  fwd/fftw  inv/sse2  inv/fftw     I/oop   inv/fwd     noise\n");
+            for (int o = 0; o <= kMaxOrder; ++o) {
+                const std::string k = std::string(kind), s = "/" + std::to_string(o);
+                auto ratio = [&](const std::string& a, const std::string& b) {
+                    const auto x = best_.find(a), y = best_.find(b);
+                    return (x == best_.end() || y == best_.end() || y->second == 0) ? 0.0 : x->second / y->second;
+                };
+                auto cell = [](double v) {
+                    if (v == 0)
+                        std::printf("  %8s", "-");
+                    else
+                        std::printf("  %8.3f", v);
+                };
+                std::printf("%5d", o);
+                cell(ratio("fftw_sse2/" + k + s, "qsp/" + k + s));
+                cell(ratio("fftw/" + k + s, "qsp/" + k + s));
+                cell(complex ? ratio("fftw_sse2/" + k + "_inv" + s, "qsp/" + k + "_inv" + s) : 0.0);
+                cell(complex ? ratio("fftw/" + k + "_inv" + s, "qsp/" + k + "_inv" + s) : 0.0);
+                cell(ratio("qsp/" + k + "_I" + s, "qsp_out_of_place/" + k + "_I" + s));
+                cell(ratio("qsp/" + k + "_inv" + s, "qsp_forward/" + k + "_inv" + s));
+                cell(ratio("qsp_again/" + k + "_same" + s, "qsp/" + k + "_same" + s));
+                std::printf("\n");
+            }
+        }
+    }
+
+private:
+    std::map<std::string, double> best_;
+};
+
+template <class T, bool Real>
+void registerKind(const char* kind)
+{
+    const std::string k = kind;
+    std::vector<std::string> names = {"qsp/" + k, "qsp_again/" + k + "_same", "qsp/" + k + "_same",
+                                      "fftw_sse2/" + k, "fftw/" + k, "qsp/" + k + "_inv", "qsp_forward/" + k + "_inv",
+                                      "qsp/" + k + "_I", "qsp_out_of_place/" + k + "_I"};
+    if constexpr (!Real) {
+        names.push_back("fftw_sse2/" + k + "_inv");
+        names.push_back("fftw/" + k + "_inv");
+    }
+    for (int o = 0; o <= kMaxOrder; ++o)
+        for (const std::string& name : names)
+            benchmark::RegisterBenchmark(name.c_str(),
+                                         [k, name](benchmark::State& st) { reportOne<T, Real>(st, k, name); })
+                ->Arg(o)
+                ->UseManualTime()
+                ->Iterations(1);
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
 {
-    std::printf("peer: %s\n", fftwf_version);
-    // Registered kind by kind and order by order, ours first, the peer next.
-    const struct {
-        const char* name;
-        void (*qsp)(benchmark::State&);
-        void (*peer)(benchmark::State&);
-    } kinds[] = {
-        {"C_32fc", qspComplex<float>, fftwComplex<float>},
-        {"C_64fc", qspComplex<double>, fftwComplex<double>},
-        {"R_32f", qspR32, fftwR32},
-        {"setup_C_32fc", qspSetup, fftwSetup},
-    };
-    for (const auto& k : kinds)
-        for (int o = kMinOrder; o <= kMaxOrder; ++o) {
-            benchmark::RegisterBenchmark((std::string("qsp/") + k.name).c_str(), k.qsp)->Arg(o);
-            benchmark::RegisterBenchmark((std::string("fftw/") + k.name).c_str(), k.peer)->Arg(o);
-        }
-    return qspbench::runWithRatios(argc, argv);
+    std::printf("peers: fftw %s; fftw_sse2 %s\n", fftwf_version,
+                PeerTraits<float>::sse2() ? PeerTraits<float>::sse2()->version : "not installed");
+    registerKind<float, false>("C_32fc");
+    registerKind<double, false>("C_64fc");
+    registerKind<float, true>("R_32f");
+    registerKind<double, true>("R_64f");
+    for (int o = 0; o <= kMaxOrder; ++o) {
+        benchmark::RegisterBenchmark("qsp/setup_C_32fc", qspSetup)->Arg(o);
+        benchmark::RegisterBenchmark("fftw/setup_C_32fc", fftwSetup)->Arg(o);
+    }
+    benchmark::Initialize(&argc, argv);
+    SummaryReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+    return 0;
 }

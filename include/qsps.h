@@ -1145,13 +1145,27 @@ QspStatus qspsRShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
 /*
  * Sizes, in bytes, that a power-of-two FFT of length N = 2^order needs:
  * *pSpecSize for the record block, *pSpecBufferSize for the buffer used only
- * during Init, *pBufferSize for the work buffer of every transform call (0: no
- * buffer needed). flag is the normalisation: 1 forward divided by N, 2 inverse
- * divided by N, 4 both divided by sqrt(N), 8 none; any other value gives
- * qspStsBadFftFlag. hint is not checked. Kinds and orders: C_16fc, C_32fc, C_32f
- * (split parts) 0..28; R_32f 0..29; C_64fc, C_64f 0..27; R_64f 0..28; other
- * orders give qspStsBadFftOrder. Every size includes 64 bytes of slack per
- * non-empty block, so the blocks need no alignment.
+ * during Init (0 below order 11), *pBufferSize for the work buffer of every
+ * transform call (0: no buffer is needed; so for complex orders 0..5 and
+ * real orders 0..6). flag is the normalisation: 1 divides the forward
+ * transform by N, 2 the inverse by N, 4 both by sqrt(N), 8 neither; any
+ * other value gives qspStsBadFftFlag. hint is stored, never checked.
+ * Kinds and orders: C_16fc, C_32fc, C_32f (split parts) 0..28; R_32f 0..29;
+ * C_64fc, C_64f 0..27; R_64f 0..28; other orders give qspStsBadFftOrder.
+ * Checks in order: order 31 or above, then the three pointers (C_16fc: the
+ * pointers, then orders above 30), the flag, the kind's maximum order.
+ * Every size includes 64 bytes of slack per non-empty block, so the blocks
+ * need no alignment; Init and the transforms stay within the sizes
+ * reported. The record takes a little over 9N bytes (complex single
+ * precision, orders 6..17) or 17N (complex double, 6..16); above those
+ * orders it holds O(sqrt N) values and the work buffer O(sqrt N) values
+ * (under 3 MB at every order), while the Init buffer stays at about N bytes
+ * (single) or 2N (double). Real kinds take the sizes of the complex
+ * transform of half their length plus their recombination tables; C_16fc
+ * those of C_32fc plus 20 record bytes and 8N work bytes, where it keeps
+ * the data as single-precision values. Every size fits in an int except
+ * that C_16fc work buffer at order 28 (2^31 bytes): GetSize, and Init,
+ * return qspStsOverflow there and write nothing.
  */
 QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 QspStatus qspsFFTGetSize_C_32fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
@@ -1166,11 +1180,30 @@ QspStatus qspsFFTGetSize_R_64f(int order, int flag, QspHintAlgorithm hint, int* 
  * Builds an FFT record of the kind in the name inside the caller's block pSpec
  * (at least *pSpecSize bytes, any alignment): the record starts at the next
  * 64-byte boundary, whose address is stored in *ppFFTSpec. pSpecBuffer (the
- * Init buffer) may be null when its size is 0. order, flag and hint as in
- * FFTGetSize. A rejected flag leaves the record unusable (transforms give
- * qspStsBadRecord). Init of C_16fc switches the processor to flush-to-zero and
- * denormals-are-zero and leaves them so. Records are read-only afterwards and
- * may be shared by threads; there is no release call.
+ * Init buffer, at least *pSpecBufferSize bytes) is used during the call only
+ * and may be null when that size is 0. order, flag and hint as in
+ * FFTGetSize. Checks in order: ppFFTSpec, the order, pSpec (qspStsNullPtr,
+ * qspStsBadFftOrder; the block is untouched), then the flag: a rejected flag
+ * leaves the record marked unusable (transforms given it return
+ * qspStsBadRecord), as does a null pSpecBuffer from order 11 on. C_16fc at
+ * order 28 returns qspStsOverflow with nothing written. Init of C_16fc
+ * switches the processor to flush-to-zero and denormals-are-zero and leaves
+ * them so. Records hold no pointer outside their block, are read-only
+ * afterwards and may be shared by threads; there is no release call (free
+ * the block).
+ * Usage (1024 points, the inverse divided by N):
+ *   int specSize, initSize, workSize;
+ *   QspsFFTSpec_C_32fc* fft;
+ *   qspsFFTGetSize_C_32fc(10, 2, 0, &specSize, &initSize, &workSize);
+ *   Qsp8u* spec = qspsMalloc_8u(specSize);
+ *   Qsp8u* init = initSize ? qspsMalloc_8u(initSize) : NULL;
+ *   Qsp8u* work = workSize ? qspsMalloc_8u(workSize) : NULL;
+ *   qspsFFTInit_C_32fc(&fft, 10, 2, 0, spec, init);
+ *   qspsFree(init);                         // Init's alone
+ *   qspsFFTFwd_CToC_32fc(x, X, fft, work);  // as often as needed
+ *   qspsFFTInv_CToC_32fc(X, x, fft, work);  // x again
+ *   qspsFree(work);
+ *   qspsFree(spec);
  */
 QspStatus qspsFFTInit_C_16fc(QspsFFTSpec_C_16fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
 QspStatus qspsFFTInit_C_32fc(QspsFFTSpec_C_32fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
@@ -1183,17 +1216,24 @@ QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, 
 /* FFTFwd ------------------------------------------------------------------ */
 /*
  * Forward FFT, X[k] = sum over m of x[m] e^(-2 pi i k m / N), N = 2^order of
- * the record. CToC: complex to complex (interleaved, or split into pSrcRe/
- * pSrcIm and pDstRe/pDstIm for 32f and 64f). RToPack, RToPerm, RToCCS: real
- * signal of N values to its half spectrum in the packed layout named below.
- * Divided by N or sqrt(N) only as the record's flag says (qspFftDivFwdByN,
- * qspFftDivInvByN, qspFftDivBySqrtN, qspFftNoDiv). _I forms transform in place
- * (for RToCCS the array holds N+2 values), and so does a call whose source
- * equals its destination, with the same results; otherwise source and
- * destination must not overlap. Concurrent calls sharing a record each need
- * their own pBuffer. Checks: null record, then the record's kind
- * (qspStsBadRecord), then the data pointers, then a null pBuffer while the
- * record needs one.
+ * the record, divided by N (qspFftDivFwdByN on forward, qspFftDivInvByN on
+ * inverse calls) or sqrt(N) (qspFftDivBySqrtN) as the record's flag says
+ * (qspFftNoDiv: never); the division is a multiplication of every result by
+ * the record's factor (1/N or 1/sqrt(N) rounded to the element type). CToC:
+ * complex to complex, interleaved (16fc, 32fc, 64fc) or split into
+ * pSrcRe/pSrcIm and pDstRe/pDstIm (32f, 64f). 16fc values are converted to
+ * single precision, transformed so, and rounded back. RToPack, RToPerm,
+ * RToCCS: a real signal of N values to its half spectrum in the packed
+ * layout named below. _I forms transform in place (for RToCCS the array
+ * holds N+2 values), as does a call whose source equals its destination,
+ * with results identical to the out-of-place call's; otherwise source and
+ * destination must not overlap. pBuffer, of the size FFTGetSize reports, may
+ * be null when that size is 0; calls running at once on one record need a
+ * buffer each. Checks in order: null record, the record's kind
+ * (qspStsBadRecord), the data pointers in parameter order, then a null
+ * pBuffer while the record needs one; nothing is written on an error.
+ * Relative RMS error against the exact transform: within 2e-7 sqrt(log2 N)
+ * in single precision, 4e-16 sqrt(log2 N) in double.
  *
  * Packed real spectra. The spectrum of N real values is conjugate-symmetric,
  * X[N-k] = conj(X[k]), so X[0] .. X[N/2] describe it (X[k] = R_k + i I_k).
@@ -1248,10 +1288,13 @@ QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFT
 
 /* FFTInv ------------------------------------------------------------------ */
 /*
- * Inverse FFT, x[m] = sum over k of X[k] e^(+2 pi i k m / N), the exact inverse
- * of FFTFwd up to the normalisation the record's flag chooses (flag 2 divides
- * the inverse by N, 4 by sqrt(N)). PackToR, PermToR, CCSToR read a packed half
- * spectrum and write N real values. Arguments and checks as in FFTFwd.
+ * Inverse FFT, x[m] = sum over k of X[k] e^(+2 pi i k m / N), divided by N
+ * (flag 2) or sqrt(N) (flag 4) when the record's flag says so: with flag 1,
+ * 2 or 4, Inv(Fwd(x)) returns x to rounding, with flag 8 N times x. PackToR, PermToR, CCSToR read a
+ * packed half spectrum (layouts as in FFTFwd; the values a layout leaves
+ * out, and the imaginary parts of bins 0 and N/2 of CCS, are taken as 0)
+ * and write N real values. Arguments, in-place rules, buffers, checks and
+ * accuracy as in FFTFwd.
  */
 QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFTSpec_C_16fc* pFFTSpec, Qsp8u* pBuffer);
 QspStatus qspsFFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsFFTSpec_C_32fc* pFFTSpec, Qsp8u* pBuffer);

@@ -66,7 +66,7 @@ QspStatus qspsFFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFT
 
 QspStatus qspsFFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealForwardEntry<float, fft::Packed::Pack>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<float, fft::Packed::Pack, false>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -76,7 +76,7 @@ QspStatus qspsFFTFwd_RToPack_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealForwardEntry<float, fft::Packed::Perm>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<float, fft::Packed::Perm, false>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -86,7 +86,7 @@ QspStatus qspsFFTFwd_RToPerm_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealForwardEntry<float, fft::Packed::Ccs>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<float, fft::Packed::Ccs, false>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -96,7 +96,7 @@ QspStatus qspsFFTFwd_RToCCS_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFT
 
 QspStatus qspsFFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealForwardEntry<double, fft::Packed::Pack>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<double, fft::Packed::Pack, false>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -106,7 +106,7 @@ QspStatus qspsFFTFwd_RToPack_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealForwardEntry<double, fft::Packed::Perm>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<double, fft::Packed::Perm, false>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -116,7 +116,7 @@ QspStatus qspsFFTFwd_RToPerm_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    return fft::ownsRealForwardEntry<double, fft::Packed::Ccs>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
+    return fft::ownsRealEntry<double, fft::Packed::Ccs, false>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTFwd_RToCCS_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)

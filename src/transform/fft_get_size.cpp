@@ -7,20 +7,26 @@
 namespace y8 {
 namespace {
 
-// Sizes are formed in 64-bit arithmetic and stored as int; above the range
-// of int (complex single precision at order 28) they wrap as 32-bit
-// arithmetic would.
+// The checks after the pointers: the flag, the kind's maximum order, then
+// sizes that must fit in an int; the sizes themselves are formed in 64
+// bits. Nothing is written on any error.
+QspStatus getSizeChecked(fft::Kind kind, int order, int flag, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize)
+{
+    if (!fft::validFlag(flag)) return qspStsBadFftFlag;
+    if (static_cast<unsigned>(order) > static_cast<unsigned>(fft::maxOrder(kind))) return qspStsBadFftOrder;
+    const fft::Sizes s = fft::kindSizes(kind, order);
+    if (!fft::sizesFit(s)) return qspStsOverflow;
+    *pSpecSize = static_cast<int>(s.spec);
+    *pSpecBufferSize = static_cast<int>(s.init);
+    *pBufferSize = static_cast<int>(s.work);
+    return qspStsOk;
+}
+
 QspStatus getSize(fft::Kind kind, int order, int flag, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize)
 {
     if (order >= 31) return qspStsBadFftOrder;
     if (pSpecSize == nullptr || pSpecBufferSize == nullptr || pBufferSize == nullptr) return qspStsNullPtr;
-    if (!fft::validFlag(flag)) return qspStsBadFftFlag;
-    if (static_cast<unsigned>(order) > static_cast<unsigned>(fft::maxOrder(kind))) return qspStsBadFftOrder;
-    const fft::Sizes s = fft::kindSizes(kind, order);
-    *pSpecSize = static_cast<int>(static_cast<Qsp32u>(s.spec));
-    *pSpecBufferSize = static_cast<int>(static_cast<Qsp32u>(s.init));
-    *pBufferSize = static_cast<int>(static_cast<Qsp32u>(s.work));
-    return qspStsOk;
+    return getSizeChecked(kind, order, flag, pSpecSize, pSpecBufferSize, pBufferSize);
 }
 
 }  // namespace
@@ -62,18 +68,15 @@ QspStatus qspsFFTGetSize_R_64f(int order, int flag, QspHintAlgorithm, int* pSpec
 }
 
 // Half precision: the pointers first, then orders above 30; then the
-// single-precision sizes, with room for a 32-bit copy of the data in the
-// work buffer and 20 more bytes of record.
-QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize,
+// single-precision checks and sizes, with room for a 32-bit copy of the
+// data in the work buffer and 20 more bytes of record. At order 28 that
+// copy alone is 2^31 bytes: qspStsOverflow.
+QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm, int* pSpecSize, int* pSpecBufferSize,
                                 int* pBufferSize)
 {
     if (pSpecSize == nullptr || pSpecBufferSize == nullptr || pBufferSize == nullptr) return qspStsNullPtr;
     if (static_cast<unsigned>(order) > 30u) return qspStsBadFftOrder;
-    if (QspStatus s = qspsFFTGetSize_C_32fc(order, flag, hint, pSpecSize, pSpecBufferSize, pBufferSize)) return s;
-    const Qsp64s n = Qsp64s(1) << order;
-    *pBufferSize = static_cast<int>(static_cast<Qsp32u>(Qsp64s(*pBufferSize) + 8 * n));
-    *pSpecSize += 20;
-    return qspStsOk;
+    return getSizeChecked(fft::kC16fc, order, flag, pSpecSize, pSpecBufferSize, pBufferSize);
 }
 
 }  // namespace y8

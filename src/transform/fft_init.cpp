@@ -38,11 +38,14 @@ Qsp8u* fillComplexTables(fft::Record* rec, int order, const fft::Octant<T>& oct,
         return at;
     }
     if (order < fft::largeFrom(sizeof(T) == 8)) {
-        fft::ownsFillPassTwiddles<T>(tw, order, oct);
-        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::passTwiddleCount<T>(Qsp64s(1) << order)));
+        fft::ownsFillMediumTwiddles<T>(tw, order, oct);
+        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::mediumTwiddleCount<T>(order)));
     }
-    fft::ownsFillLargeTwiddles<T>(tw, order, oct);
-    return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::largeTwiddleCount<T>(order)));
+    // The large tier's tables, followed by the large layout's own extra
+    // record bytes (single precision, order 19 and above).
+    rec->twiddles = nullptr;
+    fft::ownsFillLargeTables<T>(fft::largeTablesOf<T>(rec), at, order, oct);
+    return at + fft::complexRawSizes(order, sizeof(T) == 8).spec;
 }
 
 // W_N^k (forward table) and conj(W_N^k) (inverse table), k < N/4.
@@ -88,6 +91,9 @@ QspStatus init(fft::Kind kind, void** ppSpec, int order, int flag, int hint, Qsp
     if (ppSpec == nullptr) return qspStsNullPtr;
     if (static_cast<unsigned>(order) > static_cast<unsigned>(fft::maxOrder(kind))) return qspStsBadFftOrder;
     if (pSpec == nullptr) return qspStsNullPtr;
+    // Every size of these kinds fits in an int (see fft_record.h); checked
+    // all the same, before anything is written.
+    if (fft::validFlag(flag) && !fft::sizesFit(fft::kindSizes(kind, order))) return qspStsOverflow;
 
     Qsp8u* base = fft::alignUp64(pSpec);
     fft::Record* rec = reinterpret_cast<fft::Record*>(base);
@@ -133,7 +139,7 @@ QspStatus init(fft::Kind kind, void** ppSpec, int order, int flag, int hint, Qsp
                         ? 0
                         : static_cast<Qsp32s>(fft::complexRawSizes(complexOrder, dbl).work);
     if (real) {
-        rec->recombSplit = fft::realSplitTables(order, dbl) ? 1 : 0;
+        rec->recombSplit = fft::realSplitTables(order) ? 1 : 0;
         rec->recomb = at;
         at = fillRealTable<T>(rec, order, oct, at, false);
         rec->recombInv = at;
@@ -200,11 +206,18 @@ QspStatus qspsFFTInit_R_64f(QspsFFTSpec_R_64f** ppFFTSpec, int order, int flag, 
     return initAs<QspsFFTSpec_R_64f, double>(fft::kR64f, ppFFTSpec, order, flag, hint, pSpec, pSpecBuffer);
 }
 
-// Half precision: flush-to-zero and denormals-are-zero are switched on (and
-// left on), then a single-precision record is built and marked as half.
+// Half precision: the argument checks of single precision, and a good flag
+// at order 28, where the work buffer cannot be described by an int, is
+// refused with qspStsOverflow before anything is written. Then
+// flush-to-zero and denormals-are-zero are switched on (and left on), a
+// single-precision record is built and marked as half.
 QspStatus qspsFFTInit_C_16fc(QspsFFTSpec_C_16fc** ppFFTSpec, int order, int flag, QspHintAlgorithm hint,
                              Qsp8u* pSpec, Qsp8u* pSpecBuffer)
 {
+    if (ppFFTSpec == nullptr) return qspStsNullPtr;
+    if (static_cast<unsigned>(order) > static_cast<unsigned>(fft::maxOrder(fft::kC16fc))) return qspStsBadFftOrder;
+    if (pSpec == nullptr) return qspStsNullPtr;
+    if (fft::validFlag(flag) && !fft::sizesFit(fft::kindSizes(fft::kC16fc, order))) return qspStsOverflow;
     qspSetFlushToZero(1, nullptr);
     qspSetDenormAreZeros(1, nullptr);
     QspsFFTSpec_C_32fc* rec = nullptr;

@@ -66,10 +66,7 @@ QspStatus qspsFFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsFFT
 
 QspStatus qspsFFTInv_PackToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealEntry<float, fft::Packed::Pack, true>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -79,10 +76,7 @@ QspStatus qspsFFTInv_PackToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTInv_PermToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealEntry<float, fft::Packed::Perm, true>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -92,10 +86,7 @@ QspStatus qspsFFTInv_PermToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFF
 
 QspStatus qspsFFTInv_CCSToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR32f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<float>(rec, pSrc, pDst, fft::workOf<C<float>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealEntry<float, fft::Packed::Ccs, true>(pFFTSpec, fft::kR32f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFTSpec, Qsp8u* pBuffer)
@@ -105,10 +96,7 @@ QspStatus qspsFFTInv_CCSToR_32f_I(Qsp32f* pSrcDst, const QspsFFTSpec_R_32f* pFFT
 
 QspStatus qspsFFTInv_PackToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Pack);
-    return qspStsOk;
+    return fft::ownsRealEntry<double, fft::Packed::Pack, true>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -118,10 +106,7 @@ QspStatus qspsFFTInv_PackToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Perm);
-    return qspStsOk;
+    return fft::ownsRealEntry<double, fft::Packed::Perm, true>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
@@ -131,10 +116,7 @@ QspStatus qspsFFTInv_PermToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFF
 
 QspStatus qspsFFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)
 {
-    if (QspStatus s = fft::checkCall(pFFTSpec, fft::kR64f, pBuffer, pSrc, pDst)) return s;
-    const auto* rec = reinterpret_cast<const fft::Record*>(pFFTSpec);
-    fft::ownsRealInverseCall<double>(rec, pSrc, pDst, fft::workOf<C<double>>(rec, pBuffer), fft::Packed::Ccs);
-    return qspStsOk;
+    return fft::ownsRealEntry<double, fft::Packed::Ccs, true>(pFFTSpec, fft::kR64f, pSrc, pDst, pBuffer);
 }
 
 QspStatus qspsFFTInv_CCSToR_64f_I(Qsp64f* pSrcDst, const QspsFFTSpec_R_64f* pFFTSpec, Qsp8u* pBuffer)

@@ -5,16 +5,20 @@
 // Layout inside the caller's block (all offsets from the 64-byte aligned
 // record address):
 //   0    header (128 bytes, below)
-//   128  complex pass twiddles of the medium tier, or the tables of the
-//        large tier (row passes, column passes, the column twiddles as
-//        batch-start and in-batch factors)
-//   then, for the real kinds, the real-recombination table W^k and the
-//        inverse-recombination table conj(W^k), k < N/4; for real single
-//        precision above order 20 each is a coarse table (W^(1024h),
-//        h < N/4096) followed by a fine one (W^l, l < 1024).
+//   128  the complex transform's factors: those of the medium tier
+//        (fft_medium.h), or the large tier's tables (fft_large.h)
+//   then, for the real kinds, the real-recombination table and the
+//        inverse-recombination table; from order 21 on each is a coarse
+//        table (W^(1024h), h < N/4096) followed by a fine one (W^l,
+//        l < 1024).
 // Every table pointer points into the caller's block.
+//
+// Sizes are formed in 64-bit arithmetic. Every size of every kind, order
+// and flag fits in an int except the half-precision work buffer at order
+// 28 (it holds the data as single-precision complex values, 8N = 2^31
+// bytes): GetSize and Init report qspStsOverflow there.
 #pragma once
-#include "fft_engine.h"
+#include "fft_large.h"
 #include "qspdefs.h"
 
 namespace fft {
@@ -43,14 +47,28 @@ struct Record {
     Qsp32u zero;
     Qsp32u recombSplit;  // 1: the recombination tables are coarse + fine
     void* bitReverse;    // unused: the passes sort themselves
-    void* twiddles;
+    void* twiddles;      // the medium tier's factors
     void* recomb;
     void* recombInv;
-    Qsp8u reserved[128 - 72];
+    const void* large[5];  // the large tier's tables (LargeTables)
+    Qsp8u reserved[128 - 112];
 };
 static_assert(sizeof(Record) == 128);
 
 constexpr Qsp64s kHeaderBytes = sizeof(Record);
+
+template <class T>
+inline const LargeTables<T>& largeTablesOf(const Record* rec)
+{
+    static_assert(sizeof(LargeTables<T>) == sizeof(rec->large));
+    return *reinterpret_cast<const LargeTables<T>*>(rec->large);
+}
+
+template <class T>
+inline LargeTables<T>& largeTablesOf(Record* rec)
+{
+    return *reinterpret_cast<LargeTables<T>*>(rec->large);
+}
 
 inline Qsp64s r64(Qsp64s x) { return x & ~Qsp64s(63); }
 
@@ -68,21 +86,30 @@ struct Sizes {
 constexpr int kSmallMax = 5;
 inline int largeFrom(bool dbl) { return dbl ? 17 : 18; }
 
-// Medium and large sizes of a complex transform of 2^order, without the
-// 256/64 that GetSize adds (the raw sizes a real record embeds); init is
-// the large layout's own init size (0).
+// Sizes of a complex transform of 2^order (order >= 6) as a real record
+// embeds them, without the 256 and 64 bytes that GetSize adds and without
+// the octant of the Init buffer: the medium formulas, or the large tier's
+// tables and work buffer. In single precision the large layout also counts
+// (4 << (order - 12)) + 4160 more record bytes from order 19 on and a work
+// buffer of at least 65536 bytes.
 inline Sizes complexRawSizes(int order, bool dbl)
 {
     const Qsp64s n = Qsp64s(1) << order;
     const Qsp64s bytes = dbl ? 16 : 8;
     Sizes s{};
-    if (!dbl) s.spec = r64(8 * n + 71) + r64((n & ~Qsp64s(3)) + 67);
-    else      s.spec = r64(16 * n + 79) + r64((n & ~Qsp64s(3)) + 67);
-    s.work = r64(bytes * n + 63);
-    if (order >= largeFrom(dbl)) {
-        if (!dbl && order >= 19) s.spec += (Qsp64s(4) << (order - 12)) + 4160;
-        if (dbl) s.spec += 1024;
-        s.work += largeScratchCount(order) * bytes;
+    if (order < largeFrom(dbl)) {
+        if (!dbl)
+            s.spec = r64(8 * n + 71) + r64((n & ~Qsp64s(3)) + 67);
+        else
+            s.spec = r64(16 * n + 79) + r64((n & ~Qsp64s(3)) + 67);
+        s.work = r64(bytes * n + 63);
+        return s;
+    }
+    s.spec = dbl ? largeTableBytes<double>(order) : largeTableBytes<float>(order);
+    s.work = r64((dbl ? largeWorkValues<double>(order) : largeWorkValues<float>(order)) * bytes + 63);
+    if (!dbl && order >= 19) {
+        s.spec += (Qsp64s(4) << (order - 12)) + 4160;
+        if (s.work < 65536) s.work = 65536;
     }
     return s;
 }
@@ -104,16 +131,15 @@ inline Sizes complexSizes(int order, bool dbl)
     return s;
 }
 
-// Real single precision above order 20 keeps its recombination tables as
-// coarse and fine factors.
-inline bool realSplitTables(int order, bool dbl) { return !dbl && order > 20; }
+// From order 21 on the recombination tables are kept as coarse and fine
+// factors.
+inline bool realSplitTables(int order) { return order > 20; }
 
 inline Qsp64s realTableBytes(int order, bool dbl)
 {
     const Qsp64s n = Qsp64s(1) << order;
-    if (dbl) return r64(4 * n + 63);
-    if (!realSplitTables(order, dbl)) return r64((2 * n & ~Qsp64s(7)) + 63);
-    return r64((Qsp64s(8) << (order - 12)) + 8255);
+    if (!realSplitTables(order)) return dbl ? r64((4 * n & ~Qsp64s(15)) + 63) : r64((2 * n & ~Qsp64s(7)) + 63);
+    return dbl ? r64((Qsp64s(16) << (order - 12)) + 16447) : r64((Qsp64s(8) << (order - 12)) + 8255);
 }
 
 inline Sizes realSizes(int order, bool dbl)
@@ -142,9 +168,25 @@ inline int maxOrder(Kind k)
 inline bool isDouble(Kind k) { return k == kC64fc || k == kC64f || k == kR64f; }
 inline bool isReal(Kind k) { return k == kR32f || k == kR64f; }
 
+// The sizes GetSize reports for a valid kind and order, in bytes: the half
+// kind holds the data as 32-bit complex values in its work buffer and 20
+// more bytes of record.
 inline Sizes kindSizes(Kind k, int order)
 {
-    return isReal(k) ? realSizes(order, isDouble(k)) : complexSizes(order, isDouble(k));
+    if (isReal(k)) return realSizes(order, isDouble(k));
+    Sizes s = complexSizes(order, isDouble(k));
+    if (k == kC16fc) {
+        s.work += 8 * (Qsp64s(1) << order);
+        s.spec += 20;
+    }
+    return s;
+}
+
+// Whether every size fits in an int.
+inline bool sizesFit(const Sizes& s)
+{
+    constexpr Qsp64s kMax = 0x7fffffff;
+    return s.spec <= kMax && s.init <= kMax && s.work <= kMax;
 }
 
 // The flag test: not above 8 and its bit set in 0x116 (1, 2, 4, 8).

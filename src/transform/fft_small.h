@@ -2,7 +2,7 @@
 // The straight-line kernels of the small tier (N <= 32): one function per
 // order, with their twiddles as compile-time constants.
 #pragma once
-#include "fft_engine.h"
+#include "fft_vectors.h"
 
 namespace fft {
 

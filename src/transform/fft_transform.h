@@ -3,6 +3,7 @@
 // checks against the record, the choice of tier, normalisation, and the real
 // transforms' recombination and packed layouts.
 #pragma once
+#include "fft_medium.h"
 #include "fft_record.h"
 #include "fft_small.h"
 #include "mathfn/half.h"
@@ -59,69 +60,32 @@ inline bool normalises(const Record* rec)
     return (Inv ? rec->inverseNormalise : rec->forwardNormalise) != 0;
 }
 
-// ---------------------------------------------------------------- scaling
-
-inline void ownsScale(float* p, Qsp64s count, float f)
-{
-    // Counts are at most 2^29 floats here, within int.
-    y8::qspsMulC_32f_I(f, p, static_cast<int>(count));
-}
-
-inline void ownsScale(double* p, Qsp64s count, double f)
-{
-    using V = simd::Vec<double>;
-    const auto c = V::splat(f);
-    Qsp64s i = 0;
-    for (; i + 2 <= count; i += 2) V::storeu(p + i, V::mul(V::loadu(p + i), c));
-    for (; i < count; ++i) p[i] *= f;
-}
-
 // ---------------------------------------------------------------- complex
 
-// Whether n values at a and n values at b share no memory.
-template <class T>
-inline bool apart(const T* a, const T* b, Qsp64s n)
-{
-    const auto x = reinterpret_cast<Qsp64u>(a), y = reinterpret_cast<Qsp64u>(b);
-    const Qsp64u bytes = Qsp64u(n) * sizeof(T);
-    return x + bytes <= y || y + bytes <= x;
-}
-
 // One complex transform of 2^order values, src to dst (src may equal dst),
-// unscaled; work as the record's complex part needs it.
+// each result multiplied by f when scaled; work as the record's complex part
+// needs it. The straight-line kernels, the medium tier's last pass and the
+// large tier's row transforms apply the factor as they store.
 template <class T, bool Inv>
-void ownsComplex(const C<T>* src, C<T>* dst, C<T>* work, int order, const C<T>* tw)
+void ownsComplex(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work, int order, bool scaled, T f)
 {
+    const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
     const Qsp64s n = Qsp64s(1) << order;
     if (order <= kSmallMax)
-        ownsSmall<T, Inv>(order, false, src, dst, T(1));
+        ownsSmall<T, Inv>(order, scaled, src, dst, f);
     else if (order < largeFrom(sizeof(T) == 8))
-        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
+        ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
+                            halvesOf(work, n), order, tw, scaled, f);
     else
-        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
-                             order, tw, false, T(0));
+        ownsFftLargeRun<T, Inv>(InterleavedIn<T, Inv>{src}, InterleavedMem<T>{dst}, work, largeTablesOf<T>(rec), order,
+                                scaled, f);
 }
 
 // The interleaved complex kinds.
 template <class T, bool Inv>
 void ownsComplexCall(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work)
 {
-    const int order = rec->order;
-    const Qsp64s n = Qsp64s(1) << order;
-    const bool scaled = normalises<Inv>(rec);
-    const T f = factorOf<T>(rec);
-    const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
-    if (order <= kSmallMax) {
-        // The straight-line kernels scale as they store.
-        ownsSmall<T, Inv>(order, scaled, src, dst, f);
-    } else if (order < largeFrom(sizeof(T) == 8)) {
-        ownsFftMedium<T, Inv>({src, src + n / 2}, halvesOf(dst, n), halvesOf(work, n), order, tw);
-        if (scaled) ownsScale(&dst->re, 2 * n, f);
-    } else {
-        // The large kernel applies the factor as it stores.
-        ownsFftLarge<T, Inv>(InterleavedSource<T>{src}, apart(src, dst, n), halvesOf(dst, n), halvesOf(dst, n), work,
-                             order, tw, scaled, f);
-    }
+    ownsComplex<T, Inv>(rec, src, dst, work, rec->order, normalises<Inv>(rec), factorOf<T>(rec));
 }
 
 // The interleaved complex kinds from their entry points: the small orders
@@ -170,26 +134,15 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
         return;
     }
     // The destination arrays serve as the second buffer of N values (real
-    // array = first half, imaginary array = second half); the result is
-    // gathered in the work buffer and split from there.
+    // array = first half, imaginary array = second half).
     const Halves<C<T>> dstPair{reinterpret_cast<C<T>*>(dstRe), reinterpret_cast<C<T>*>(dstIm)};
     if (order < largeFrom(sizeof(T) == 8)) {
-        for (Qsp64s i = 0; i < n; ++i) work[i] = {srcRe[i], srcIm[i]};
-        ownsFftMedium<T, Inv>({work, work + n / 2}, halvesOf(work, n), dstPair, order, tw);
-    } else {
-        const bool srcApart = apart(srcRe, dstRe, n) && apart(srcRe, dstIm, n) && apart(srcIm, dstRe, n) &&
-                              apart(srcIm, dstIm, n);
-        ownsFftLarge<T, Inv>(SplitSource<T>{srcRe, srcIm}, srcApart, dstPair, halvesOf(work, n), work, order, tw,
-                             false, T(0));
+        ownsFftMediumRun<T>(SplitIn<T, Inv>{srcRe, srcIm}, dstPair, SplitOut<T, Inv>{dstRe, dstIm}, false,
+                            halvesOf(work, n), order, tw, scaled, f);
+        return;
     }
-    for (Qsp64s i = 0; i < n; ++i) {
-        dstRe[i] = work[i].re;
-        dstIm[i] = work[i].im;
-    }
-    if (scaled) {
-        ownsScale(dstRe, n, f);
-        ownsScale(dstIm, n, f);
-    }
+    ownsFftLargeRun<T, Inv>(SplitIn<T, Inv>{srcRe, srcIm}, SplitMem<T>{dstRe, dstIm}, work, largeTablesOf<T>(rec), order,
+                            scaled, f);
 }
 
 // Half precision: converted into 32-bit complex values in the part of the
@@ -395,9 +348,8 @@ void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     if (order == 0) {
         dst[0] = rec->forwardNormalise ? src[0] * factorOf<T>(rec) : src[0];
     } else {
-        ownsComplex<T, false>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
-                              static_cast<const C<T>*>(rec->twiddles));
-        if (rec->forwardNormalise) ownsScale(dst, n, factorOf<T>(rec));
+        ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
+                              rec->forwardNormalise != 0, factorOf<T>(rec));
         ownsRecombine<T, false>(rec, dst, order);
     }
     if (layout == Packed::Pack && n >= 4) {
@@ -514,27 +466,38 @@ inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
     kRealSmallForwardOne<T, Layout, 5, false>, kRealSmallForwardOne<T, Layout, 5, true>,
 };
 
-template <class T, Packed Layout>
-__attribute__((noinline)) QspStatus ownsRealForwardOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
+// The real inverse transforms of orders 0..5, one straight-line function
+// per order, layout and scaling: the packed spectrum read into a local
+// array in Perm order, the inverse recombination with built-in twiddles,
+// and the half-length complex kernel (scaling as it stores) into the
+// destination. Everything is read before the destination is written.
+template <class T, Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallInverse(const T* src, T* dst, T f)
 {
-    ownsRealForwardCall<T>(rec, src, dst, work, Layout);
+    constexpr Qsp64s n = Qsp64s(1) << Order;
+    if constexpr (Order == 0) {
+        dst[0] = Scaled ? src[0] * f : src[0];
+    } else {
+        alignas(16) T z[n];
+        z[0] = src[0];
+        z[1] = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
+        for (Qsp64s i = 2; i < n; ++i) z[i] = Layout == Packed::Pack ? src[i - 1] : src[i];
+        ownsRecombineInverse<T, Order>(nullptr, z, Order);
+        ownsFftSmall<T, true, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(z), reinterpret_cast<C<T>*>(dst), f);
+    }
     return qspStsOk;
 }
 
-// The real forward kinds from their entry points: the small orders end in a
-// jump to their kernel. As for the complex kinds, only the other orders test
-// the work buffer.
+// At 2 * order + scaled.
 template <class T, Packed Layout>
-inline QspStatus ownsRealForwardEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
-{
-    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
-    const Record* rec = static_cast<const Record*>(spec);
-    const int order = rec->order;
-    if (__builtin_expect(order <= kSmallMax, 1))
-        return kRealSmallForward<T, Layout>[2 * order + int(rec->forwardNormalise != 0)](src, dst, factorOf<T>(rec));
-    if (missingWork(rec, work)) return qspStsNullPtr;
-    return ownsRealForwardOutOfLine<T, Layout>(rec, src, dst, workOf<C<T>>(rec, work));
-}
+inline constexpr RealSmallKernel<T> kRealSmallInverse[12] = {
+    ownsRealSmallInverse<T, Layout, 0, false>, ownsRealSmallInverse<T, Layout, 0, true>,
+    ownsRealSmallInverse<T, Layout, 1, false>, ownsRealSmallInverse<T, Layout, 1, true>,
+    ownsRealSmallInverse<T, Layout, 2, false>, ownsRealSmallInverse<T, Layout, 2, true>,
+    ownsRealSmallInverse<T, Layout, 3, false>, ownsRealSmallInverse<T, Layout, 3, true>,
+    ownsRealSmallInverse<T, Layout, 4, false>, ownsRealSmallInverse<T, Layout, 4, true>,
+    ownsRealSmallInverse<T, Layout, 5, false>, ownsRealSmallInverse<T, Layout, 5, true>,
+};
 
 template <class T>
 void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
@@ -562,8 +525,35 @@ void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
     }
     ownsRecombine<T, true>(rec, dst, order);
     C<T>* z = reinterpret_cast<C<T>*>(dst);
-    ownsComplex<T, true>(z, z, work, order - 1, static_cast<const C<T>*>(rec->twiddles));
-    if (rec->inverseNormalise) ownsScale(dst, n, factorOf<T>(rec));
+    ownsComplex<T, true>(rec, z, z, work, order - 1, rec->inverseNormalise != 0, factorOf<T>(rec));
+}
+
+template <class T, Packed Layout, bool Inverse>
+__attribute__((noinline)) QspStatus ownsRealOutOfLine(const Record* rec, const T* src, T* dst, C<T>* work)
+{
+    if constexpr (Inverse)
+        ownsRealInverseCall<T>(rec, src, dst, work, Layout);
+    else
+        ownsRealForwardCall<T>(rec, src, dst, work, Layout);
+    return qspStsOk;
+}
+
+// The real kinds from their entry points, in either direction: the small
+// orders end in a jump to their kernel. As for the complex kinds, only the
+// other orders test the work buffer.
+template <class T, Packed Layout, bool Inverse>
+inline QspStatus ownsRealEntry(const void* spec, Kind kind, const T* src, T* dst, Qsp8u* work)
+{
+    if (QspStatus s = checkRecordAndData(spec, kind, src, dst)) return s;
+    const Record* rec = static_cast<const Record*>(spec);
+    const int order = rec->order;
+    if (__builtin_expect(order <= kSmallMax, 1)) {
+        const bool scaled = (Inverse ? rec->inverseNormalise : rec->forwardNormalise) != 0;
+        const RealSmallKernel<T>* kernels = Inverse ? kRealSmallInverse<T, Layout> : kRealSmallForward<T, Layout>;
+        return kernels[2 * order + int(scaled)](src, dst, factorOf<T>(rec));
+    }
+    if (missingWork(rec, work)) return qspStsNullPtr;
+    return ownsRealOutOfLine<T, Layout, Inverse>(rec, src, dst, workOf<C<T>>(rec, work));
 }
 
 }  // namespace fft

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include <memory>
+#include <string>
+
+#include "guard_page.h"
 #include "qsp_test.h"
+#include "transform/fft_record.h"
 
 namespace {
 
@@ -80,16 +85,14 @@ TEST(FFTGetSize, RealSizesFollowTheFormulas)
 
 TEST(FFTGetSize, LargeLayoutAdditions)
 {
-    // Orders 19 and above: work of at least 65536 (+64); the record of the
-    // large layout grows by (4 << (order-12)) + 4160 on top of the medium
-    // formula of the same length.
-    for (int order = 18; order <= 27; ++order) {
-        const long long n = 1LL << order;
+    // Orders 19 and above: work of at least 65536 (+64); the record holds
+    // the large layout's tables and (4 << (order-12)) + 4160 bytes more.
+    for (int order = 18; order <= 28; ++order) {
         int s, i, w;
         ASSERT_EQ(qspsFFTGetSize_C_32fc(order, 8, 0, &s, &i, &w), qspStsOk);
-        EXPECT_GE(w, 65536 + 64);
-        const long long medium = r64(8 * n + 71) + r64((n & ~3LL) + 67) + 256;
-        EXPECT_EQ(s, (int)(medium + (order >= 19 ? (4LL << (order - 12)) + 4160 : 0))) << order;
+        if (order >= 19) EXPECT_GE(w, 65536 + 64);
+        const long long tables = fft::largeTableBytes<float>(order);
+        EXPECT_EQ(s, (int)(tables + 256 + (order >= 19 ? (4LL << (order - 12)) + 4160 : 0))) << order;
     }
 }
 
@@ -155,7 +158,10 @@ TEST(FFTGetSize, MaximumOrderOfEachKind)
     EXPECT_EQ(qspsFFTGetSize_C_64fc(27, 8, 0, &s, &i, &w), qspStsOk);
     EXPECT_EQ(qspsFFTGetSize_C_64fc(28, 8, 0, &s, &i, &w), qspStsBadFftOrder);
     EXPECT_EQ(qspsFFTGetSize_C_64f(28, 8, 0, &s, &i, &w), qspStsBadFftOrder);
-    EXPECT_EQ(qspsFFTGetSize_C_16fc(28, 8, 0, &s, &i, &w), qspStsOk);
+    EXPECT_EQ(qspsFFTGetSize_C_16fc(27, 8, 0, &s, &i, &w), qspStsOk);
+    // Order 28 is accepted, but its work buffer (8N bytes for the data as
+    // single-precision values alone) cannot be described by an int.
+    EXPECT_EQ(qspsFFTGetSize_C_16fc(28, 8, 0, &s, &i, &w), qspStsOverflow);
     EXPECT_EQ(qspsFFTGetSize_C_16fc(29, 8, 0, &s, &i, &w), qspStsBadFftOrder);
 }
 
@@ -175,4 +181,175 @@ TEST(FFTGetSize, HalfPrecisionChecksPointersFirst)
     EXPECT_EQ(s, 7);
     EXPECT_EQ(i, 7);
     EXPECT_EQ(w, 7);
+}
+
+// ---------------------------------------------------------------- bounds
+
+namespace {
+
+using AnyInit = QspStatus (*)(void**, int, int, int, Qsp8u*, Qsp8u*);
+
+// A kind's size query, Init, and one forward and one inverse transform
+// through raw arrays: `arrays` arrays of `bytes(n)` bytes each for source
+// and destination (split kinds: real and imaginary parts), the destination
+// of a real forward transform N + 2 values (CCS).
+struct BoundsKind {
+    const char* name;
+    int maxOrder;
+    GetSize size;
+    AnyInit init;
+    int arrays;
+    size_t srcBytesPerPoint, dstBytesPerPoint, dstExtra;
+    QspStatus (*fwd)(void* const* s, void* const* d, const void* rec, Qsp8u* w);
+    QspStatus (*inv)(void* const* s, void* const* d, const void* rec, Qsp8u* w);
+};
+
+const BoundsKind kBoundsKinds[] = {
+    {"C_16fc", 28, qspsFFTGetSize_C_16fc, (AnyInit)qspsFFTInit_C_16fc, 1, 4, 4, 0,
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTFwd_CToC_16fc((const Qsp16fc*)s[0], (Qsp16fc*)d[0], (const QspsFFTSpec_C_16fc*)r, w); },
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTInv_CToC_16fc((const Qsp16fc*)s[0], (Qsp16fc*)d[0], (const QspsFFTSpec_C_16fc*)r, w); }},
+    {"C_32fc", 28, qspsFFTGetSize_C_32fc, (AnyInit)qspsFFTInit_C_32fc, 1, 8, 8, 0,
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTFwd_CToC_32fc((const Qsp32fc*)s[0], (Qsp32fc*)d[0], (const QspsFFTSpec_C_32fc*)r, w); },
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTInv_CToC_32fc((const Qsp32fc*)s[0], (Qsp32fc*)d[0], (const QspsFFTSpec_C_32fc*)r, w); }},
+    {"C_32f", 28, qspsFFTGetSize_C_32f, (AnyInit)qspsFFTInit_C_32f, 2, 4, 4, 0,
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTFwd_CToC_32f((const Qsp32f*)s[0], (const Qsp32f*)s[1], (Qsp32f*)d[0], (Qsp32f*)d[1], (const QspsFFTSpec_C_32f*)r, w); },
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTInv_CToC_32f((const Qsp32f*)s[0], (const Qsp32f*)s[1], (Qsp32f*)d[0], (Qsp32f*)d[1], (const QspsFFTSpec_C_32f*)r, w); }},
+    {"R_32f", 29, qspsFFTGetSize_R_32f, (AnyInit)qspsFFTInit_R_32f, 1, 4, 4, 8,
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTFwd_RToCCS_32f((const Qsp32f*)s[0], (Qsp32f*)d[0], (const QspsFFTSpec_R_32f*)r, w); },
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTInv_CCSToR_32f((const Qsp32f*)d[0], (Qsp32f*)s[0], (const QspsFFTSpec_R_32f*)r, w); }},
+    {"C_64fc", 27, qspsFFTGetSize_C_64fc, (AnyInit)qspsFFTInit_C_64fc, 1, 16, 16, 0,
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTFwd_CToC_64fc((const Qsp64fc*)s[0], (Qsp64fc*)d[0], (const QspsFFTSpec_C_64fc*)r, w); },
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTInv_CToC_64fc((const Qsp64fc*)s[0], (Qsp64fc*)d[0], (const QspsFFTSpec_C_64fc*)r, w); }},
+    {"C_64f", 27, qspsFFTGetSize_C_64f, (AnyInit)qspsFFTInit_C_64f, 2, 8, 8, 0,
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTFwd_CToC_64f((const Qsp64f*)s[0], (const Qsp64f*)s[1], (Qsp64f*)d[0], (Qsp64f*)d[1], (const QspsFFTSpec_C_64f*)r, w); },
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTInv_CToC_64f((const Qsp64f*)s[0], (const Qsp64f*)s[1], (Qsp64f*)d[0], (Qsp64f*)d[1], (const QspsFFTSpec_C_64f*)r, w); }},
+    {"R_64f", 28, qspsFFTGetSize_R_64f, (AnyInit)qspsFFTInit_R_64f, 1, 8, 8, 16,
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTFwd_RToCCS_64f((const Qsp64f*)s[0], (Qsp64f*)d[0], (const QspsFFTSpec_R_64f*)r, w); },
+     [](void* const* s, void* const* d, const void* r, Qsp8u* w) { return qspsFFTInv_CCSToR_64f((const Qsp64f*)d[0], (Qsp64f*)s[0], (const QspsFFTSpec_R_64f*)r, w); }},
+};
+
+// The one size that cannot be described: half precision's work buffer at
+// order 28.
+bool overflowExpected(const BoundsKind& k, int order) { return std::string(k.name) == "C_16fc" && order == 28; }
+
+// GetSize, then Init into a record block and an Init buffer of exactly the
+// reported sizes, each followed by an inaccessible page; with `transform`,
+// a forward and an inverse transform with a work buffer and data arrays of
+// exactly their sizes, followed by such pages. Reports the sizes.
+void checkBounds(const BoundsKind& k, int order, int flag, bool transform, int* out = nullptr)
+{
+    int s = -1, i = -1, w = -1;
+    const QspStatus st = k.size(order, flag, 0, &s, &i, &w);
+    if (overflowExpected(k, order)) {
+        ASSERT_EQ(st, qspStsOverflow) << k.name << " order " << order;
+        EXPECT_EQ(s, -1);
+        EXPECT_EQ(i, -1);
+        EXPECT_EQ(w, -1);
+        // Init refuses it too, writing nothing.
+        qsptest::GuardPageBlock spec(4096);
+        void* rec = (void*)0x1;
+        EXPECT_EQ(k.init(&rec, order, flag, 0, spec.data(), nullptr), qspStsOverflow);
+        EXPECT_EQ(rec, (void*)0x1);
+        for (size_t b = 0; b < spec.size(); ++b) ASSERT_EQ(spec.data()[b], 0xA5);
+        return;
+    }
+    ASSERT_EQ(st, qspStsOk) << k.name << " order " << order << " flag " << flag;
+    ASSERT_GT(s, 0);
+    ASSERT_GE(i, 0);
+    ASSERT_GE(w, 0);
+    if (out) out[0] = s, out[1] = i, out[2] = w;
+    qsptest::GuardPageBlock spec{size_t(s)}, init{size_t(i)};
+    ASSERT_TRUE(spec.ok() && init.ok());
+    void* rec = nullptr;
+    ASSERT_EQ(k.init(&rec, order, flag, 0, spec.data(), i ? init.data() : nullptr), qspStsOk)
+        << k.name << " order " << order << " flag " << flag;
+    if (!transform) return;
+    const size_t n = size_t(1) << order;
+    qsptest::GuardPageBlock work{size_t(w)};
+    std::vector<std::unique_ptr<qsptest::GuardPageBlock>> blocks;
+    void* src[2] = {};
+    void* dst[2] = {};
+    for (int a = 0; a < k.arrays; ++a) {
+        blocks.push_back(std::make_unique<qsptest::GuardPageBlock>(n * k.srcBytesPerPoint, 0));
+        src[a] = blocks.back()->data();
+        blocks.push_back(std::make_unique<qsptest::GuardPageBlock>(n * k.dstBytesPerPoint + k.dstExtra, 0));
+        dst[a] = blocks.back()->data();
+    }
+    for (auto& b : blocks) ASSERT_TRUE(b->ok());
+    EXPECT_EQ(k.fwd(src, dst, rec, w ? work.data() : nullptr), qspStsOk) << k.name << " order " << order;
+    EXPECT_EQ(k.inv(src, dst, rec, w ? work.data() : nullptr), qspStsOk) << k.name << " order " << order;
+}
+
+}  // namespace
+
+// Every kind, order and flag: what GetSize reports is enough for Init, and
+// from order 0 to 20 for a forward and an inverse transform as well. The
+// orders above, where Init alone builds a table of N/8 values, are in the
+// heavy tests below.
+TEST(FFTGetSize, ReportedSizesBoundInitAndTransforms)
+{
+    for (const BoundsKind& k : kBoundsKinds)
+        for (int order = 0; order <= 20; ++order)
+            for (int flag : {1, 2, 4, 8}) checkBounds(k, order, flag, flag == 4);
+    qspSetFlushToZero(0, nullptr);
+    qspSetDenormAreZeros(0, nullptr);
+}
+
+TEST(FFTGetSize, EverySizeFitsAnIntOrIsRefused)
+{
+    for (const BoundsKind& k : kBoundsKinds)
+        for (int order = 0; order <= k.maxOrder; ++order)
+            for (int flag : {1, 2, 4, 8}) {
+                int s = -1, i = -1, w = -1;
+                const QspStatus st = k.size(order, flag, 0, &s, &i, &w);
+                if (overflowExpected(k, order)) {
+                    EXPECT_EQ(st, qspStsOverflow);
+                    continue;
+                }
+                ASSERT_EQ(st, qspStsOk) << k.name << " order " << order;
+                EXPECT_GT(s, 0);
+                EXPECT_GE(i, 0);
+                EXPECT_GE(w, 0);
+            }
+}
+
+// Orders 21..24: Init and the transforms within the reported sizes.
+TEST(FFTGetSizeHeavy, TransformsUpToOrder24)
+{
+    for (const BoundsKind& k : kBoundsKinds)
+        for (int order = 21; order <= 24; ++order) checkBounds(k, order, 4, true);
+    qspSetFlushToZero(0, nullptr);
+    qspSetDenormAreZeros(0, nullptr);
+}
+
+// The largest orders: every kind and flag from order 25 to its maximum,
+// GetSize then Init within the reported sizes; a transform at the largest
+// order of each kind whose arrays, record and buffers stay within 3 GiB.
+// Prints the sizes of the top orders.
+TEST(FFTGetSizeHeavy, LargestOrders)
+{
+    for (const BoundsKind& k : kBoundsKinds) {
+        for (int order = 25; order <= k.maxOrder; ++order)
+            for (int flag : {1, 2, 4, 8}) {
+                int sz[3] = {};
+                checkBounds(k, order, flag, false, sz);
+                if (flag == 8 && !overflowExpected(k, order))
+                    printf("  %-6s order %d: record %d, Init buffer %d, work buffer %d bytes\n", k.name, order, sz[0],
+                           sz[1], sz[2]);
+                else if (flag == 8)
+                    printf("  %-6s order %d: qspStsOverflow\n", k.name, order);
+            }
+        int order = k.maxOrder;
+        auto bytes = [&](int o) {
+            int s = 0, i = 0, w = 0;
+            if (k.size(o, 4, 0, &s, &i, &w) != qspStsOk) return 1e30;
+            const double n = double(1LL << o);
+            return double(s) + i + w + n * k.arrays * (k.srcBytesPerPoint + k.dstBytesPerPoint);
+        };
+        while (bytes(order) > 3.0 * (1 << 30)) --order;
+        checkBounds(k, order, 4, true);
+        printf("  %-6s transforms at order %d within the reported sizes\n", k.name, order);
+    }
+    qspSetFlushToZero(0, nullptr);
+    qspSetDenormAreZeros(0, nullptr);
 }
