@@ -1887,6 +1887,82 @@ QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
 QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
 QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
+/* DFTGetSize -------------------------------------------------------------- */
+/*
+ * Sizes, in bytes, that a DFT of any length len >= 1 needs: *pSpecSize for the
+ * record block, *pSpecBufferSize for the buffer used only during Init,
+ * *pBufferSize for the work buffer of every transform call (0: none). flag as
+ * for the FFT (1 forward divided by len, 2 inverse, 4 both by sqrt(len), 8
+ * none); hint is stored, not checked. Kinds as for the FFT: C_32fc, C_32f
+ * (split parts), C_64fc, C_64f, R_32f, R_64f, C_16fc.
+ */
+QspStatus qspsDFTGetSize_C_16fc(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_32fc(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_32f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_R_32f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_64fc(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_64f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_R_64f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+
+/* DFTInit ----------------------------------------------------------------- */
+/*
+ * Builds a DFT record for len inside the caller's block pDFTSpec (at least
+ * *pSpecSize bytes, any alignment): the record proper starts at the block's
+ * first 64-byte boundary, and the transforms find it there from the same
+ * block pointer (or from that aligned address). The record keeps one method
+ * chosen by len: direct evaluation, the power-of-two FFT, a prime-factor
+ * plan or a chirp convolution through FFTs. pSpecBuffer may be null when its
+ * size is 0.
+ */
+QspStatus qspsDFTInit_C_16fc(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_16fc* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_32fc(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_32fc* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_32f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_32f* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_R_32f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_64fc(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_64fc* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_64f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_64f* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_R_64f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pSpecBuffer);
+
+/* DFTFwd ------------------------------------------------------------------ */
+/*
+ * Forward DFT of the record's length L: X[k] = sum over m of x[m]
+ * e^(-2 pi i k m / L), for any L >= 1. CToC on interleaved or split (32f, 64f)
+ * complex data; RToPack, RToPerm, RToCCS write the half spectrum of a real
+ * signal in the packed layouts of the FFT, odd L included (Pack and Perm hold L
+ * values, CCS L+2 for even L, L+1 for odd L). Direct_CToC_16fc evaluates the
+ * definition without a record. Normalised as the record's flag says.
+ */
+QspStatus qspsDFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsDFTSpec_C_16fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsDFTSpec_C_32fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsDFTSpec_C_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsDFTSpec_C_64fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsDFTSpec_C_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_Direct_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, int len);
+
+/* DFTInv ------------------------------------------------------------------ */
+/*
+ * Inverse DFT: x[m] = sum over k of X[k] e^(+2 pi i k m / L), the exact inverse
+ * of DFTFwd up to the normalisation of the record's flag. PackToR, PermToR,
+ * CCSToR read a packed half spectrum and write L real values.
+ */
+QspStatus qspsDFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsDFTSpec_C_16fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsDFTSpec_C_32fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsDFTSpec_C_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsDFTSpec_C_64fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsDFTSpec_C_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PackToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PermToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CCSToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PackToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_Direct_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, int len);
+
 #ifdef __cplusplus
 }
 #endif
