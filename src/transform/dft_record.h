@@ -199,7 +199,7 @@ QspStatus recordLayout(Kind kind, Qsp64s len, bool forSizes, Layout& l)
     case kCoreTable:
         l.directAt = at;
         at += roundUp64(l.core * cx);
-        work = roundUp64(l.core * cx);
+        work = l.core * cx;  // a copy of the source: 8 L + 64 bytes for single precision
         break;
     case kCorePlan:
         l.plan = planLayout<T>(l.list, l.core);
@@ -219,10 +219,13 @@ QspStatus recordLayout(Kind kind, Qsp64s len, bool forSizes, Layout& l)
     }
     l.spec = 64 + at;
     l.init = 64 + roundUp64(l.rootCount * cx) + (l.coreMethod == kCoreChirp ? l.chirp.initBytes : 0);
-    l.tempAt = work;
-    if (real) work += roundUp64(l.core * cx);
-    if (kind == kC16fc) work += roundUp64(len * 8);
-    l.work = 64 + work;
+    // the real kinds' complex temporary or the half kind's single-precision
+    // copy behind the core's work
+    l.tempAt = roundUp64(work);
+    Qsp64s extra = 0;
+    if (real) extra += roundUp64(l.core * cx);
+    if (kind == kC16fc) extra += roundUp64(len * 8);
+    l.work = 64 + (extra ? l.tempAt + extra : work);
     return qspStsOk;
 }
 
