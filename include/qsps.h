@@ -1963,6 +1963,49 @@ QspStatus qspsDFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFT
 QspStatus qspsDFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
 QspStatus qspsDFTInv_Direct_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, int len);
 
+/* DCTGetSize -------------------------------------------------------------- */
+/*
+ * Sizes, in bytes, that a DCT of length len >= 1 needs (record block, Init
+ * buffer, work buffer). The inverse sizes equal the forward ones. A length
+ * beyond the method's limit gives qspStsBadSize.
+ */
+QspStatus qspsDCTFwdGetSize_32f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDCTFwdGetSize_64f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDCTInvGetSize_32f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDCTInvGetSize_64f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+
+/* DCTInit ----------------------------------------------------------------- */
+/*
+ * Builds a forward or inverse DCT record for len inside the caller's block
+ * pSpec (aligned up to 64 bytes inside it; the aligned address goes to
+ * *ppDCTSpec). The method follows len: fixed kernels for 1, 2, 4, 8, direct
+ * evaluation, the power-of-two FFT, or a convolution method.
+ */
+QspStatus qspsDCTFwdInit_32f(QspsDCTFwdSpec_32f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDCTFwdInit_64f(QspsDCTFwdSpec_64f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDCTInvInit_32f(QspsDCTInvSpec_32f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDCTInvInit_64f(QspsDCTInvSpec_64f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+
+/* DCTFwd ------------------------------------------------------------------ */
+/*
+ * Orthonormal type-II DCT: y[0] = (1/sqrt(L)) sum x[n], y[k] = sqrt(2/L) sum
+ * x[n] cos(pi (2n+1) k / (2L)), L the record's length. _I transforms in place.
+ */
+QspStatus qspsDCTFwd_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDCTFwdSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTFwd_32f_I(Qsp32f* pSrcDst, const QspsDCTFwdSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTFwd_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDCTFwdSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTFwd_64f_I(Qsp64f* pSrcDst, const QspsDCTFwdSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+
+/* DCTInv ------------------------------------------------------------------ */
+/*
+ * Inverse of DCTFwd (type III with the same factors): DCTFwd followed by
+ * DCTInv returns the input. _I transforms in place.
+ */
+QspStatus qspsDCTInv_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDCTInvSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTInv_32f_I(Qsp32f* pSrcDst, const QspsDCTInvSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTInv_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDCTInvSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTInv_64f_I(Qsp64f* pSrcDst, const QspsDCTInvSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+
 #ifdef __cplusplus
 }
 #endif
