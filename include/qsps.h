@@ -2006,6 +2006,26 @@ QspStatus qspsDCTInv_32f_I(Qsp32f* pSrcDst, const QspsDCTInvSpec_32f* pDCTSpec, 
 QspStatus qspsDCTInv_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDCTInvSpec_64f* pDCTSpec, Qsp8u* pBuffer);
 QspStatus qspsDCTInv_64f_I(Qsp64f* pSrcDst, const QspsDCTInvSpec_64f* pDCTSpec, Qsp8u* pBuffer);
 
+/* Goertz ------------------------------------------------------------------ */
+/*
+ * Goertzel: one bin of the DFT at relative frequency rFreq in [0, 1): *pVal =
+ * sum of pSrc[n] e^(-2 pi i rFreq n) (rFreq outside gives qspStsBadRelFreq). The
+ * integer forms scale the bin by 2^-scaleFactor, round and saturate. _L
+ * forms take a 64-bit length and run in one pass.
+ */
+QspStatus qspsGoertz_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_32sc_Sfs(const Qsp32sc* pSrc, int len, Qsp32sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_32f(const Qsp32f* pSrc, int len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_64f(const Qsp64f* pSrc, int len, Qsp64fc* pVal, Qsp64f rFreq);
+QspStatus qspsGoertz_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pVal, Qsp64f rFreq);
+QspStatus qspsGoertz_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64fc* pVal, Qsp64f rFreq);
+QspStatus qspsGoertz_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pVal, Qsp64f rFreq);
+
 #ifdef __cplusplus
 }
 #endif
