@@ -2026,6 +2026,22 @@ QspStatus qspsGoertz_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pVal, Qsp3
 QspStatus qspsGoertz_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64fc* pVal, Qsp64f rFreq);
 QspStatus qspsGoertz_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pVal, Qsp64f rFreq);
 
+/* Hilbert ----------------------------------------------------------------- */
+/*
+ * Analytic signal of a real block by the Hilbert transform: pDst[n] = x[n] + i
+ * h[n], h the Hilbert transform of x, computed by FFT over the record's length
+ * (given at Init; HilbertGetSize reports the record and work-buffer bytes).
+ * 16s16sc_Sfs scales the result by 2^-scaleFactor, rounds and saturates.
+ */
+QspStatus qspsHilbertGetSize_32f32fc(int len, QspHintAlgorithm hint, int* pSpecSize, int* pBufferSize);
+QspStatus qspsHilbertGetSize_64f64fc(int len, QspHintAlgorithm hint, int* pSpecSize, int* pBufferSize);
+QspStatus qspsHilbertInit_32f32fc(QspsHilbertSpec_32f** ppSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbertInit_64f64fc(QspsHilbertSpec_64f** ppSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_32f32fc(const Qsp32f* pSrc, Qsp32fc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_64f64fc(const Qsp64f* pSrc, Qsp64fc* pDst, const QspsHilbertSpec_64f* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_16s32fc(const Qsp16s* pSrc, Qsp32fc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_16s16sc_Sfs(const Qsp16s* pSrc, Qsp16sc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer, int scaleFactor);
+
 #ifdef __cplusplus
 }
 #endif
