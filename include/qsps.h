@@ -2042,6 +2042,58 @@ QspStatus qspsHilbert_64f64fc(const Qsp64f* pSrc, Qsp64fc* pDst, const QspsHilbe
 QspStatus qspsHilbert_16s32fc(const Qsp16s* pSrc, Qsp32fc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer);
 QspStatus qspsHilbert_16s16sc_Sfs(const Qsp16s* pSrc, Qsp16sc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer, int scaleFactor);
 
+/* WTHaar ------------------------------------------------------------------ */
+/*
+ * One level of the Haar wavelet transform. Fwd: pDstLow[k] = (x[2k] + x[2k+1])/2
+ * and pDstHigh[k] = (x[2k+1] - x[2k])/2 for the len source values (odd len:
+ * the last value goes to pDstLow alone, halved); Inv restores x. 16s forms
+ * scale by 2^-scaleFactor, round and saturate.
+ */
+QspStatus qspsWTHaarFwd_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDstLow, Qsp16s* pDstHigh, int len, int scaleFactor);
+QspStatus qspsWTHaarInv_16s_Sfs(const Qsp16s* pSrcLow, const Qsp16s* pSrcHigh, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsWTHaarFwd_32f(const Qsp32f* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int len);
+QspStatus qspsWTHaarInv_32f(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp32f* pDst, int len);
+QspStatus qspsWTHaarFwd_64f(const Qsp64f* pSrc, Qsp64f* pDstLow, Qsp64f* pDstHigh, int len);
+QspStatus qspsWTHaarInv_64f(const Qsp64f* pSrcLow, const Qsp64f* pSrcHigh, Qsp64f* pDst, int len);
+
+/* WTFwd ------------------------------------------------------------------- */
+/*
+ * Wavelet analysis by a two-channel filter bank: the source is filtered by the
+ * low-pass and high-pass taps and decimated by 2 into pDstLow and pDstHigh
+ * (dstLen values each, from 2*dstLen source values). The state keeps the taps,
+ * their offsets and the delay lines, so consecutive calls continue a stream.
+ * The 8s32f, 8u32f, 16s32f and 16u32f forms analyse an integer
+ * signal with the same 32f state. A filter length below 1 or an offset outside [-1, taps length - 1] gives
+ * qspStsBadWaveletParam.
+ */
+QspStatus qspsWTFwdGetSize(QspDataType dataType, int lenLow, int offsLow, int lenHigh, int offsHigh, int* pStateSize);
+QspStatus qspsWTFwdInit_32f(QspsWTFwdState_32f** ppState, const Qsp32f* pTapsLow, int lenLow, int offsLow, const Qsp32f* pTapsHigh, int lenHigh, int offsHigh, Qsp8u* pBuf);
+QspStatus qspsWTFwd_32f(const Qsp32f* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_8s32f(const Qsp8s* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_8u32f(const Qsp8u* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_16s32f(const Qsp16s* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_16u32f(const Qsp16u* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwdGetDlyLine_32f(const QspsWTFwdState_32f* pState, Qsp32f* pDlyLow, Qsp32f* pDlyHigh);
+QspStatus qspsWTFwdSetDlyLine_32f(QspsWTFwdState_32f* pState, const Qsp32f* pDlyLow, const Qsp32f* pDlyHigh);
+
+/* WTInv ------------------------------------------------------------------- */
+/*
+ * Wavelet synthesis: the inverse of WTFwd. pSrcLow and pSrcHigh (srcLen values
+ * each) are upsampled by 2, filtered by the synthesis taps and summed into
+ * 2*srcLen values of pDst. State, taps and offsets as in WTFwd. The
+ * 32f8s, 32f8u, 32f16s and 32f16u forms round the result to nearest and
+ * saturate it to the integer type.
+ */
+QspStatus qspsWTInvGetSize(QspDataType dataType, int lenLow, int offsLow, int lenHigh, int offsHigh, int* pStateSize);
+QspStatus qspsWTInvInit_32f(QspsWTInvState_32f** ppState, const Qsp32f* pTapsLow, int lenLow, int offsLow, const Qsp32f* pTapsHigh, int lenHigh, int offsHigh, Qsp8u* pBuf);
+QspStatus qspsWTInv_32f(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp32f* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f8s(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp8s* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f8u(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp8u* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f16s(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp16s* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f16u(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp16u* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInvGetDlyLine_32f(const QspsWTInvState_32f* pState, Qsp32f* pDlyLow, Qsp32f* pDlyHigh);
+QspStatus qspsWTInvSetDlyLine_32f(QspsWTInvState_32f* pState, const Qsp32f* pDlyLow, const Qsp32f* pDlyHigh);
+
 #ifdef __cplusplus
 }
 #endif
