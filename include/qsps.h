@@ -2051,7 +2051,9 @@ QspStatus qspsDCTInvGetSize_64f(int len, QspHintAlgorithm hint, int* pSpecSize, 
  * 67108863 (64-bit: 16777215) give qspStsBadSize; Init thus accepts the
  * single-precision lengths 33554433..67108863 (not powers of two) that the
  * size query refuses, given blocks of the 64-bit sizes of their real DFT
- * plus the DCT's own tables; then null ppDCTSpec or pSpec,
+ * plus the DCT's own tables (their work buffers, too, can pass 2^31 bytes:
+ * the record's work size then reads 2147483647, and the caller sizes the
+ * work buffer as for the Init buffer); then null ppDCTSpec or pSpec,
  * then a null pSpecBuffer that the embedded transform needs
  * (qspStsNullPtr). Records are read-only afterwards.
  */

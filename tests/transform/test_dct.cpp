@@ -151,6 +151,47 @@ TEST(DctInit, LengthBeforePointersAndTheInitBuffer)
     initChecks<double>();
 }
 
+// Init takes the convolution lengths above the size query's bound: given a
+// large enough block it builds a working record for 2^25 + 1.
+TEST(DctInitHeavy, AcceptsALengthItsSizeQueryRefuses)
+{
+    const int n = 33554433;
+    int s, i, w;
+    ASSERT_EQ(qspsDCTFwdGetSize_32f(n, 0, &s, &i, &w), qspStsBadSize);
+    // no query reports these sizes (they pass 2^31 bytes): blocks far larger
+    // than the method needs, of which Init touches only what it uses
+    const Qsp64s spec_bytes = 3LL << 30, init_bytes = 3LL << 30;
+    struct Buffer {
+        explicit Buffer(Qsp64s bytes) : p(qspsMalloc_8u_L(bytes)) {}
+        ~Buffer() { qspsFree(p); }
+        Qsp8u* p;
+    } spec(spec_bytes), buf(init_bytes);
+    ASSERT_NE(spec.p, nullptr);
+    ASSERT_NE(buf.p, nullptr);
+    void* rec = nullptr;
+    ASSERT_EQ(init<float>(false, &rec, n, spec.p, buf.p), qspStsOk);
+    // the work size passes 2^31 bytes too: the record holds its saturated value
+    EXPECT_EQ(static_cast<const dct::Record<float>*>(rec)->workSize, 0x7FFFFFFF);
+    Buffer work(3LL << 30);
+    ASSERT_NE(work.p, nullptr);
+    EXPECT_EQ(static_cast<const dct::Record<float>*>(rec)->id, 23u);
+    EXPECT_EQ(static_cast<const dct::Record<float>*>(rec)->convMethod, 1u);
+    // a constant input c gives c sqrt(L) at 0 and (nearly) nothing elsewhere
+    struct Signal {
+        explicit Signal(Qsp64s count) : p(static_cast<float*>(static_cast<void*>(qspsMalloc_8u_L(count * 4)))) {}
+        ~Signal() { qspsFree(p); }
+        float* p;
+    } x(n), y(n);
+    ASSERT_NE(x.p, nullptr);
+    ASSERT_NE(y.p, nullptr);
+    for (int k = 0; k < n; ++k) x.p[k] = 1.0f;
+    ASSERT_EQ(qspsDCTFwd_32f(x.p, y.p, static_cast<const QspsDCTFwdSpec_32f*>(rec), work.p), qspStsOk);
+    EXPECT_NEAR(y.p[0], std::sqrt(double(n)), 1e-4 * std::sqrt(double(n)));
+    double worst = 0;
+    for (int k = 1; k < n; k += 4099) worst = std::max(worst, double(std::fabs(y.p[k])));
+    EXPECT_LT(worst, 1e-3);
+}
+
 // The header: identifier, length, hint, work size, the zero word, the two
 // factors from double, the method flags.
 template <class T>
