@@ -6,7 +6,10 @@
 // from the build with 128-bit SSE2 codelets only ("fftw-sse2"); the record
 // set-up (GetSize + Init) against FFTW_ESTIMATE planning. Each case runs
 // right after its twins, so that all see the same machine state; the ratio
-// table at the end gives peer time / our time.
+// table at the end gives peer time / our time. Also the orthonormal DCT-II
+// against FFTW's REDFT10 of the same length (an unnormalised DCT-II), and
+// one Goertzel bin against the plain second-order recurrence ("loop").
+#include <cmath>
 #include <fftw3.h>
 
 #include <cstring>
@@ -93,6 +96,68 @@ void qspSetup(benchmark::State& state)
     }
 }
 
+void qspDct(benchmark::State& state)
+{
+    const int n = lengthOf(state);
+    int s, i, w;
+    qspsDCTFwdGetSize_32f(n, qspAlgHintNone, &s, &i, &w);
+    Block spec(s), init(i), work(w);
+    QspsDCTFwdSpec_32f* rec = nullptr;
+    qspsDCTFwdInit_32f(&rec, n, qspAlgHintNone, spec.p, init.p);
+    std::vector<float> src(n), dst(n);
+    for (int k = 0; k < n; ++k) src[k] = float(k % 7) - 3;
+    for (auto _ : state) {
+        qspsDCTFwd_32f(src.data(), dst.data(), rec, work.p);
+        benchmark::ClobberMemory();
+    }
+}
+
+template <class T>
+void qspGoertz(benchmark::State& state)
+{
+    const int n = lengthOf(state);
+    std::vector<T> src(n);
+    for (int k = 0; k < n; ++k) src[k] = T(k % 7) - 3;
+    if constexpr (sizeof(T) == 4) {
+        Qsp32fc v;
+        for (auto _ : state) {
+            qspsGoertz_32f(src.data(), n, &v, 0.1234f);
+            benchmark::DoNotOptimize(v);
+        }
+    } else {
+        Qsp64fc v;
+        for (auto _ : state) {
+            qspsGoertz_64f(src.data(), n, &v, 0.1234);
+            benchmark::DoNotOptimize(v);
+        }
+    }
+}
+
+// The textbook recurrence s[n] = x[n] + 2 cos(w) s[n-1] - s[n-2] in the data
+// type, the bin formed from the last two states.
+template <class T>
+void loopGoertz(benchmark::State& state)
+{
+    const int n = lengthOf(state);
+    std::vector<T> src(n);
+    for (int k = 0; k < n; ++k) src[k] = T(k % 7) - 3;
+    const T w = T(2 * M_PI * 0.1234);
+    const T c = std::cos(w), sn = std::sin(w), c2 = 2 * c;
+    for (auto _ : state) {
+        const T* x = src.data();
+        benchmark::DoNotOptimize(x);
+        T s1 = 0, s2 = 0;
+        for (int k = 0; k < n; ++k) {
+            const T s0 = x[k] + c2 * s1 - s2;
+            s2 = s1;
+            s1 = s0;
+        }
+        T re = s1 * c - s2, im = s1 * sn;
+        benchmark::DoNotOptimize(re);
+        benchmark::DoNotOptimize(im);
+    }
+}
+
 // ------------------------------------------------------------ FFTW
 
 // One FFTW library and precision: the system one, or the SSE2-only build
@@ -175,12 +240,37 @@ void peerSetup(benchmark::State& state)
     P::release(src), P::release(dst);
 }
 
+template <bool Sse2>
+void peerDct(benchmark::State& state)
+{
+    using P = Peer<float, Sse2>;
+    if (!P::available()) {
+        state.SkipWithError("SSE2-only FFTW not installed");
+        return;
+    }
+    const int n = lengthOf(state);
+    float* src = reinterpret_cast<float*>(P::alloc(n));
+    float* dst = reinterpret_cast<float*>(P::alloc(n));
+    fftwf_plan p = Sse2 ? P::api().plan_r2r_1d(n, src, dst, FFTW_REDFT10, FFTW_MEASURE)
+                        : fftwf_plan_r2r_1d(n, src, dst, FFTW_REDFT10, FFTW_MEASURE);
+    for (int k = 0; k < n; ++k) src[k] = float(k % 7) - 3;
+    for (auto _ : state) {
+        P::execute(p);
+        benchmark::ClobberMemory();
+    }
+    P::destroy(p);
+    P::release(src), P::release(dst);
+}
+
 // Lengths with a prime factor above 50, and lengths 2^a 3^b 5^c 7^d up to
 // 10^5 (none a power of two: those are the FFT's).
 const int kLargePrime[] = {53, 101, 106, 212, 596, 1031, 2597, 4099, 10007, 20011, 65537};
 const int kSmooth[] = {6,    12,   15,   24,   48,   60,   96,   100,   120,   240,   360,    480,
                        1000, 1536, 2000, 2187, 3000, 3375, 5000, 6000,  10000, 16807, 30000, 50000,
                        84375, 100000};
+// DCT-II lengths: powers of two and others from 16 to 4096.
+const int kDct[] = {16, 32, 36, 60, 64, 100, 128, 256, 360, 500, 512, 1000, 1024, 2048, 3000, 4096};
+const int kGoertz[] = {64, 256, 1024, 4096, 65536};
 
 }  // namespace
 
@@ -202,5 +292,13 @@ int main(int argc, char** argv)
     for (int n : kSmooth) add("C_64fc", n, qspDft<double>, peerDft<double, false>, peerDft<double, true>);
     for (int n : kLargePrime) add("setup_C_32fc", n, qspSetup, peerSetup<false>, peerSetup<true>);
     for (int n : kSmooth) add("setup_C_32fc", n, qspSetup, peerSetup<false>, peerSetup<true>);
+    for (int n : kDct) add("DCT2_32f", n, qspDct, peerDct<false>, peerDct<true>);
+    for (int n : kGoertz) {
+        const std::string c = "Goertz_32f/" + std::to_string(n), d = "Goertz_64f/" + std::to_string(n);
+        benchmark::RegisterBenchmark(("qsp/" + c).c_str(), [=](benchmark::State& s) { run(s, n, qspGoertz<float>); });
+        benchmark::RegisterBenchmark(("loop/" + c).c_str(), [=](benchmark::State& s) { run(s, n, loopGoertz<float>); });
+        benchmark::RegisterBenchmark(("qsp/" + d).c_str(), [=](benchmark::State& s) { run(s, n, qspGoertz<double>); });
+        benchmark::RegisterBenchmark(("loop/" + d).c_str(), [=](benchmark::State& s) { run(s, n, loopGoertz<double>); });
+    }
     return qspbench::runWithRatios(argc, argv);
 }
