@@ -1974,6 +1974,207 @@ QspStatus qspsReplaceNAN_64f_I(Qsp64f* pSrcDst, int len, Qsp64f value);
 QspStatus qspsReplaceNAN_32fc_I(Qsp32fc* pSrcDst, int len, Qsp32f value);
 QspStatus qspsReplaceNAN_64fc_I(Qsp64fc* pSrcDst, int len, Qsp64f value);
 
+/* DFTGetSize -------------------------------------------------------------- */
+/*
+ * Sizes, in bytes, that a DFT of any length len >= 1 needs: *pSpecSize for the
+ * record block, *pSpecBufferSize for the buffer used only during Init,
+ * *pBufferSize for the work buffer of every transform call (0: none). Every
+ * non-empty size includes 64 bytes of slack, so blocks need no alignment.
+ * flag as for the FFT: 1 forward divided by len, 2 inverse divided by len, 4
+ * both divided by sqrt(len), 8 none; hint is stored, never checked. Kinds:
+ * C_32fc, C_32f (split parts), C_64fc, C_64f, R_32f, R_64f, C_16fc.
+ * The method follows len (DFTInit tells which); powers of two from 32 report
+ * the FFT's sizes of that order (and its status: qspStsBadFftOrder beyond
+ * its orders) with the DFT header added to the record. Checks: a null size
+ * pointer (qspStsNullPtr), len < 1 (qspStsBadSize), the flag
+ * (qspStsBadFftFlag), then the limits: lengths that are not powers of two
+ * above 134217727 (64-bit kinds: 67108863), chirp lengths above 33554431
+ * (64-bit kinds: 16777215), and any length whose sizes would exceed 2^31-1
+ * bytes give qspStsBadSize (Init accepts the single-precision chirp lengths
+ * up to 67108863 and the FFT's longest orders, with blocks of their 64-bit
+ * sizes).
+ */
+QspStatus qspsDFTGetSize_C_16fc(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_32fc(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_32f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_R_32f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_64fc(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_C_64f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDFTGetSize_R_64f(int len, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+
+/* DFTInit ----------------------------------------------------------------- */
+/*
+ * Builds a DFT record for len inside the caller's block pDFTSpec (at least
+ * *pSpecSize bytes, any alignment): the record proper starts at the block's
+ * first 64-byte boundary, and the transforms find it there from the same
+ * block pointer (or from that aligned address). The record keeps one method
+ * chosen by len, the same rule for every kind:
+ *   len <= 16: direct evaluation by a straight-line kernel (no tables, no
+ *     buffers);
+ *   a power of two from 32: an FFT record of that order inside the block
+ *     (C_32fc for the 16fc kind), with the same flag and hint; its errors are
+ *     returned as they are;
+ *   otherwise len is factorised: 4s while it divides, a leading 2, odd
+ *     divisors 3, 5, 7, ... up to 48 (a failed one above 48 ends the attempt),
+ *     a 3 behind a leading 2 merged into 6, the remainder last; with a factor
+ *     found and the last factor at most 50 (150 when 4 divides len) a
+ *     prime-factor plan (e.g. 96 = 2*4*4*3, 1000 = 2*4*5*5*5, 48 = 4*4*3);
+ *   else above 50: the chirp convolution through the FFT (length a power of
+ *     two >= 2 len - 1; e.g. 53, 101, 1031, 2597 = 7*7*53);
+ *   else (the primes 17..47): direct evaluation from a table of len roots,
+ *     work buffer 8 len + 64 bytes (16 len + 64 for 64-bit data).
+ * The real kinds of even length run a complex transform of len/2 and
+ * recombine. Identifiers: C_16fc 14, C_32fc 15, C_32f 16, R_32f 17, C_64fc 18,
+ * C_64f 19, R_64f 20. pSpecBuffer may be null when its size is 0. Checks: a
+ * null pDFTSpec, len < 1 (nothing written); then the header is cleared and
+ * the flag checked (qspStsBadFftFlag); above 134217727 (not a power of two;
+ * 64-bit kinds 67108863) qspStsBadSize; a null pSpecBuffer that tables need
+ * qspStsNullPtr; a chirp length above 67108863 (64-bit kinds 16777215)
+ * qspStsBadSize. After any failure past the clearing the record carries
+ * identifier 0 and every transform refuses it. Init of C_16fc leaves the
+ * floating-point modes alone. Records are read-only afterwards and may be
+ * shared by threads; there is no release call.
+ */
+QspStatus qspsDFTInit_C_16fc(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_16fc* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_32fc(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_32fc* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_32f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_32f* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_R_32f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_64fc(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_64fc* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_C_64f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_C_64f* pDFTSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDFTInit_R_64f(int len, int flag, QspHintAlgorithm hint, QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pSpecBuffer);
+
+/* DFTFwd ------------------------------------------------------------------ */
+/*
+ * Forward DFT of the record's length L: X[k] = sum over m of x[m]
+ * e^(-2 pi i k m / L), for any L >= 1, divided by L or sqrt(L) only as the
+ * record's flag says. CToC on interleaved complex data or on split arrays
+ * (pSrcRe/pSrcIm to pDstRe/pDstIm, 32f and 64f). RToPack, RToPerm, RToCCS
+ * write the half spectrum of a real signal in the packed layouts of the FFT,
+ * odd L included: Pack R0, R1, I1, ..., ending R(L/2) for even L; Perm R0,
+ * R(L/2), R1, I1, ... (odd L: as Pack); CCS R0, 0, R1, I1, ..., R(L/2), 0
+ * (L+2 values; odd L: L+1, ending with the pair of bin (L-1)/2).
+ * CToC_16fc transforms half-precision data through single precision
+ * (rounded to nearest on the way back); it chooses its conversion path
+ * (four values at a time, or one) by the support library's feature query
+ * with the mask 0x1000000000, with the same results either way.
+ * Direct_CToC_16fc evaluates the sums of the definition without a record
+ * (len values; not normalised; pSrc and pDst must not overlap).
+ * A call whose source equals its destination transforms in place with the
+ * same results; other overlaps are not allowed. Concurrent calls sharing a
+ * record each need their own pBuffer. Checks: a null record, its identifier
+ * (qspStsBadRecord), the data pointers, then a null pBuffer while the
+ * record needs one (Direct: the pointers, then len < 1).
+ * Example:
+ *   int s, i, w;
+ *   qspsDFTGetSize_C_32fc(1000, 1, 0, &s, &i, &w);
+ *   Qsp8u *spec = qspsMalloc_8u(s), *init = qspsMalloc_8u(i), *work = qspsMalloc_8u(w);
+ *   qspsDFTInit_C_32fc(1000, 1, 0, (QspsDFTSpec_C_32fc*)spec, init);
+ *   qspsFree(init);
+ *   qspsDFTFwd_CToC_32fc(x, X, (QspsDFTSpec_C_32fc*)spec, work);   (X = DFT(x) / 1000)
+ */
+QspStatus qspsDFTFwd_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsDFTSpec_C_16fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsDFTSpec_C_32fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsDFTSpec_C_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsDFTSpec_C_64fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsDFTSpec_C_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPack_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPerm_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToCCS_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPack_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToPerm_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_RToCCS_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTFwd_Direct_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, int len);
+
+/* DFTInv ------------------------------------------------------------------ */
+/*
+ * Inverse DFT: x[m] = sum over k of X[k] e^(+2 pi i k m / L), the exact inverse
+ * of DFTFwd up to the normalisation of the record's flag. PackToR, PermToR,
+ * CCSToR read a packed half spectrum (see DFTFwd) and write L real values;
+ * the imaginary slots of bin 0 and (even L) bin L/2 in CCS are not read.
+ * Everything else as DFTFwd.
+ */
+QspStatus qspsDFTInv_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, const QspsDFTSpec_C_16fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_32fc(const Qsp32fc* pSrc, Qsp32fc* pDst, const QspsDFTSpec_C_32fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_32f(const Qsp32f* pSrcRe, const Qsp32f* pSrcIm, Qsp32f* pDstRe, Qsp32f* pDstIm, const QspsDFTSpec_C_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_64fc(const Qsp64fc* pSrc, Qsp64fc* pDst, const QspsDFTSpec_C_64fc* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CToC_64f(const Qsp64f* pSrcRe, const Qsp64f* pSrcIm, Qsp64f* pDstRe, Qsp64f* pDstIm, const QspsDFTSpec_C_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PackToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PermToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CCSToR_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDFTSpec_R_32f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PackToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_PermToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_CCSToR_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDFTSpec_R_64f* pDFTSpec, Qsp8u* pBuffer);
+QspStatus qspsDFTInv_Direct_CToC_16fc(const Qsp16fc* pSrc, Qsp16fc* pDst, int len);
+
+/* DCTGetSize -------------------------------------------------------------- */
+/*
+ * Sizes, in bytes, that a DCT of length len >= 1 needs (record block, Init
+ * buffer, work buffer); the inverse sizes equal the forward ones. By method:
+ * len 1, 2, 4, 8 fixed kernels, record 160 bytes (64-bit: 168), no buffers;
+ * other lengths below 36 direct evaluation from a table, record 16 len + 192
+ * (64-bit: 32 len + 192), no Init buffer, work 4 len + 64 (8 len + 64);
+ * powers of two from 16 the real FFT of length len; other lengths from 36
+ * the real DFT of length len (prime factors or the chirp convolution) - for
+ * these two the embedded transform's sizes plus 192 (record), 64 (a
+ * non-zero Init buffer) and 64 (work). Checks: len < 1 (qspStsBadSize), a
+ * null size pointer, then the limits (qspStsBadSize): powers of two above
+ * 268435455 (64-bit: 134217727), other lengths above 33554431 (64-bit:
+ * 16777215).
+ */
+QspStatus qspsDCTFwdGetSize_32f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDCTFwdGetSize_64f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDCTInvGetSize_32f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+QspStatus qspsDCTInvGetSize_64f(int len, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
+
+/* DCTInit ----------------------------------------------------------------- */
+/*
+ * Builds a forward or inverse DCT record for len inside the caller's block
+ * pSpec (aligned up to 64 bytes inside it; the aligned address goes to
+ * *ppDCTSpec). The method follows len as in DCTGetSize. Identifiers: 23
+ * forward 32f, 24 inverse 32f, 25 forward 64f, 26 inverse 64f, written last,
+ * only when Init succeeds. The record holds 1/sqrt(len) and sqrt(2/len)
+ * (from double) and its method flags. Checks: the length first - len < 1,
+ * powers of two above 268435455 (64-bit: 134217727), other lengths above
+ * 67108863 (64-bit: 16777215) give qspStsBadSize; Init thus accepts the
+ * single-precision lengths 33554433..67108863 (not powers of two) that the
+ * size query refuses, given blocks of the 64-bit sizes of their real DFT
+ * plus the DCT's own tables (their work buffers, too, can pass 2^31 bytes:
+ * the record's work size then reads 2147483647, and the caller sizes the
+ * work buffer as for the Init buffer); then null ppDCTSpec or pSpec,
+ * then a null pSpecBuffer that the embedded transform needs
+ * (qspStsNullPtr). Records are read-only afterwards.
+ */
+QspStatus qspsDCTFwdInit_32f(QspsDCTFwdSpec_32f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDCTFwdInit_64f(QspsDCTFwdSpec_64f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDCTInvInit_32f(QspsDCTInvSpec_32f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+QspStatus qspsDCTInvInit_64f(QspsDCTInvSpec_64f** ppDCTSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pSpecBuffer);
+
+/* DCTFwd ------------------------------------------------------------------ */
+/*
+ * Orthonormal type-II DCT: y[0] = (1/sqrt(L)) sum x[n], y[k] = sqrt(2/L) sum
+ * x[n] cos(pi (2n+1) k / (2L)) for k = 1..L-1, L the record's length. _I
+ * transforms in place (as does a call whose source equals its destination);
+ * other overlaps are not allowed. Checks: null pSrc, pDst or record
+ * (qspStsNullPtr), the record's identifier (qspStsBadRecord); the fixed
+ * kernels (1, 2, 4, 8) need no buffer; otherwise a null pBuffer gives
+ * qspStsNullPtr. Concurrent calls sharing a record need their own pBuffer.
+ */
+QspStatus qspsDCTFwd_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDCTFwdSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTFwd_32f_I(Qsp32f* pSrcDst, const QspsDCTFwdSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTFwd_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDCTFwdSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTFwd_64f_I(Qsp64f* pSrcDst, const QspsDCTFwdSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+
+/* DCTInv ------------------------------------------------------------------ */
+/*
+ * Inverse of DCTFwd (type III with the same factors): x[n] = (1/sqrt(L)) y[0]
+ * + sqrt(2/L) sum over k >= 1 of y[k] cos(pi (2n+1) k / (2L)); DCTFwd followed
+ * by DCTInv returns the input. _I transforms in place. Checks as DCTFwd.
+ */
+QspStatus qspsDCTInv_32f(const Qsp32f* pSrc, Qsp32f* pDst, const QspsDCTInvSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTInv_32f_I(Qsp32f* pSrcDst, const QspsDCTInvSpec_32f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTInv_64f(const Qsp64f* pSrc, Qsp64f* pDst, const QspsDCTInvSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+QspStatus qspsDCTInv_64f_I(Qsp64f* pSrcDst, const QspsDCTInvSpec_64f* pDCTSpec, Qsp8u* pBuffer);
+
 /* FIRSR ------------------------------------------------------------------- */
 /*
  * Single-rate FIR filter, one output per input:
@@ -2576,6 +2777,145 @@ QspStatus qspsTriangle_32f(Qsp32f* pDst, int len, Qsp32f magn, Qsp32f rFreq, Qsp
 QspStatus qspsTriangle_32fc(Qsp32fc* pDst, int len, Qsp32f magn, Qsp32f rFreq, Qsp32f asym, Qsp32f* pPhase);
 QspStatus qspsTriangle_64f(Qsp64f* pDst, int len, Qsp64f magn, Qsp64f rFreq, Qsp64f asym, Qsp64f* pPhase);
 QspStatus qspsTriangle_64fc(Qsp64fc* pDst, int len, Qsp64f magn, Qsp64f rFreq, Qsp64f asym, Qsp64f* pPhase);
+
+/* Goertz ------------------------------------------------------------------ */
+/*
+ * Goertzel: one bin of the DFT at relative frequency rFreq in [0, 1): *pVal =
+ * sum over n < len of pSrc[n] e^(-2 pi i rFreq n) (rFreq outside, NaN included,
+ * gives qspStsBadRelFreq). The sum is formed in double precision with phase
+ * factors taken afresh from the exactly reduced phase frac(rFreq n) every
+ * 2048 samples, so its error stays near the rounding of the sums however
+ * long the vector and wherever rFreq lies (unlike the second-order
+ * recurrence); the floating forms round the bin to their type. The integer
+ * forms multiply the bin by 2^-scaleFactor, round to nearest with ties to
+ * even and saturate each part. Checks: pointers, len < 1 (qspStsBadSize),
+ * then rFreq; the _L forms take a 64-bit length, check it first (then the
+ * pointers) and run in one pass.
+ */
+QspStatus qspsGoertz_16s_Sfs(const Qsp16s* pSrc, int len, Qsp16sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_16sc_Sfs(const Qsp16sc* pSrc, int len, Qsp16sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_32s_Sfs(const Qsp32s* pSrc, int len, Qsp32sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_32sc_Sfs(const Qsp32sc* pSrc, int len, Qsp32sc* pVal, Qsp32f rFreq, int scaleFactor);
+QspStatus qspsGoertz_32f(const Qsp32f* pSrc, int len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_32fc(const Qsp32fc* pSrc, int len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_64f(const Qsp64f* pSrc, int len, Qsp64fc* pVal, Qsp64f rFreq);
+QspStatus qspsGoertz_64fc(const Qsp64fc* pSrc, int len, Qsp64fc* pVal, Qsp64f rFreq);
+QspStatus qspsGoertz_32f_L(const Qsp32f* pSrc, Qsp64s len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_32fc_L(const Qsp32fc* pSrc, Qsp64s len, Qsp32fc* pVal, Qsp32f rFreq);
+QspStatus qspsGoertz_64f_L(const Qsp64f* pSrc, Qsp64s len, Qsp64fc* pVal, Qsp64f rFreq);
+QspStatus qspsGoertz_64fc_L(const Qsp64fc* pSrc, Qsp64s len, Qsp64fc* pVal, Qsp64f rFreq);
+
+/* Hilbert ----------------------------------------------------------------- */
+/*
+ * Analytic signal of a real block by the Hilbert transform: pDst[n] = x[n] + i
+ * h[n] for the record's length L, where h is the inverse DFT of
+ * -i sgn(k) X[k], X = DFT(x), sgn(k) = +1 for 0 < k < L/2, -1 for
+ * L/2 < k < L, 0 for k = 0 and k = L/2: the inverse DFT of X[k] H[k] with
+ * H = 1 at 0 and L/2, 2 below L/2, 0 above. The real part is written from
+ * x itself. HilbertGetSize reports the record bytes and one buffer size that
+ * serves both Init and the transforms (64 bytes of slack each; any
+ * alignment). The record holds a real DFT record of length L (identifiers 27
+ * for 32f, 28 for 64f); GetSize and Init refuse lengths beyond the real
+ * DFT's limits as it does. 16s32fc transforms a 16-bit signal in single
+ * precision; 16s16sc_Sfs scales both parts by 2^-scaleFactor, rounds to
+ * nearest with ties to even and saturates. pSrc and pDst must not overlap.
+ * Checks: GetSize and Init: pointers (Init: ppSpec, pSpec), len < 1, then a
+ * null pBuffer that Init needs for its tables (the identifier is written
+ * last); transforms: pSrc, pDst, the record (qspStsNullPtr), its identifier
+ * (qspStsBadRecord), a null pBuffer.
+ */
+QspStatus qspsHilbertGetSize_32f32fc(int len, QspHintAlgorithm hint, int* pSpecSize, int* pBufferSize);
+QspStatus qspsHilbertGetSize_64f64fc(int len, QspHintAlgorithm hint, int* pSpecSize, int* pBufferSize);
+QspStatus qspsHilbertInit_32f32fc(QspsHilbertSpec_32f** ppSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbertInit_64f64fc(QspsHilbertSpec_64f** ppSpec, int len, QspHintAlgorithm hint, Qsp8u* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_32f32fc(const Qsp32f* pSrc, Qsp32fc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_64f64fc(const Qsp64f* pSrc, Qsp64fc* pDst, const QspsHilbertSpec_64f* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_16s32fc(const Qsp16s* pSrc, Qsp32fc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer);
+QspStatus qspsHilbert_16s16sc_Sfs(const Qsp16s* pSrc, Qsp16sc* pDst, const QspsHilbertSpec_32f* pSpec, Qsp8u* pBuffer, int scaleFactor);
+
+/* WTHaar ------------------------------------------------------------------ */
+/*
+ * One level of the Haar wavelet transform. Fwd: pDstLow[k] = (x[2k] + x[2k+1])/2
+ * and pDstHigh[k] = (x[2k+1] - x[2k])/2 for k < len/2 (odd len: the last value
+ * goes to pDstLow[(len-1)/2] alone, halved); Inv (len the output length):
+ * x[2k] = low[k] - high[k], x[2k+1] = low[k] + high[k], and for odd len
+ * x[len-1] = 2 low[(len-1)/2]. The 16s forms form the exact integer sums and
+ * differences and apply the scale-factor rule with the halving (Fwd) or
+ * doubling (the odd last value of Inv) folded into the shift: a result is
+ * v 2^-(scaleFactor+1) (Fwd), rounded to nearest with ties to even and
+ * saturated; Fwd with scaleFactor -1 and Inv with 1 are lossless while the
+ * sums fit in 16 bits. Sources and destinations must not overlap. Checks:
+ * pointers, then len < 1.
+ */
+QspStatus qspsWTHaarFwd_16s_Sfs(const Qsp16s* pSrc, Qsp16s* pDstLow, Qsp16s* pDstHigh, int len, int scaleFactor);
+QspStatus qspsWTHaarInv_16s_Sfs(const Qsp16s* pSrcLow, const Qsp16s* pSrcHigh, Qsp16s* pDst, int len, int scaleFactor);
+QspStatus qspsWTHaarFwd_32f(const Qsp32f* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int len);
+QspStatus qspsWTHaarInv_32f(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp32f* pDst, int len);
+QspStatus qspsWTHaarFwd_64f(const Qsp64f* pSrc, Qsp64f* pDstLow, Qsp64f* pDstHigh, int len);
+QspStatus qspsWTHaarInv_64f(const Qsp64f* pSrcLow, const Qsp64f* pSrcHigh, Qsp64f* pDst, int len);
+
+/* WTFwd ------------------------------------------------------------------- */
+/*
+ * Wavelet analysis by a two-channel filter bank: each channel filters the
+ * source with its taps h (length N, offset a in [-1, N-1]) and keeps every
+ * second output, out[k] = sum over j < N of h[j] x[2k - a - j], so dstLen
+ * values of pDstLow and pDstHigh come from 2*dstLen source values; a = -1
+ * uses x[2k+1] as the newest sample, a larger a delays the channel. Samples
+ * before the block come from the channel's delay line, max(0, N + a - 1)
+ * values (oldest first, zeros after Init), which each call advances, so
+ * consecutive calls continue a stream. The state (identifier 29) keeps
+ * copies of the taps, the offsets and the lines in the caller's block
+ * (pBuf, at least *pStateSize bytes, any alignment; the state is updated
+ * by every call: one stream per state). WTFwdGetSize takes the data type
+ * qsp32f only (qspStsBadDataType otherwise). The 8s32f, 8u32f, 16s32f and
+ * 16u32f forms analyse an integer signal with the same 32f state. With the
+ * synthesis of WTInv an orthogonal bank (h1[j] = (-1)^j h0[N-1-j], synthesis
+ * taps the time reverse of the analysis taps, same offsets per channel)
+ * reconstructs its input delayed by N + a + b samples (b the synthesis
+ * offset; Haar with a = b = -1: no delay). Checks: pointers; a filter length
+ * below 1 (qspStsBadWaveletParam); the data type; an offset outside
+ * [-1, N-1] (qspStsBadWaveletParam); calls: pointers, dstLen < 1, the state's
+ * identifier (qspStsBadRecord). Get/SetDlyLine copy both lines out of or
+ * into the state (pointers, then the identifier).
+ * Example (Haar, no delay):
+ *   const Qsp32f c = 0.70710678f, h0[2] = {c, c}, h1[2] = {c, -c};
+ *   int size; qspsWTFwdGetSize(qsp32f, 2, -1, 2, -1, &size);
+ *   QspsWTFwdState_32f* st; qspsWTFwdInit_32f(&st, h0, 2, -1, h1, 2, -1, qspsMalloc_8u(size));
+ *   qspsWTFwd_32f(x, low, high, n / 2, st);
+ */
+QspStatus qspsWTFwdGetSize(QspDataType dataType, int lenLow, int offsLow, int lenHigh, int offsHigh, int* pStateSize);
+QspStatus qspsWTFwdInit_32f(QspsWTFwdState_32f** ppState, const Qsp32f* pTapsLow, int lenLow, int offsLow, const Qsp32f* pTapsHigh, int lenHigh, int offsHigh, Qsp8u* pBuf);
+QspStatus qspsWTFwd_32f(const Qsp32f* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_8s32f(const Qsp8s* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_8u32f(const Qsp8u* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_16s32f(const Qsp16s* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwd_16u32f(const Qsp16u* pSrc, Qsp32f* pDstLow, Qsp32f* pDstHigh, int dstLen, QspsWTFwdState_32f* pState);
+QspStatus qspsWTFwdGetDlyLine_32f(const QspsWTFwdState_32f* pState, Qsp32f* pDlyLow, Qsp32f* pDlyHigh);
+QspStatus qspsWTFwdSetDlyLine_32f(QspsWTFwdState_32f* pState, const Qsp32f* pDlyLow, const Qsp32f* pDlyHigh);
+
+/* WTInv ------------------------------------------------------------------- */
+/*
+ * Wavelet synthesis: the inverse of WTFwd. pSrcLow and pSrcHigh (srcLen values
+ * each) are upsampled by 2 (a zero after each value), filtered by the
+ * channel's taps g (length N, offset b in [-1, N-1]),
+ * y[n] = sum over j < N of g[j] u[n - (b + 1) - j], u[2k] = in[k],
+ * and summed into 2*srcLen values of pDst. Values before the block come from
+ * the channel's delay line of floor((N + b) / 2) input values (oldest
+ * first), advanced by each call. State (identifier 30), sizes, offsets and
+ * checks as in WTFwd. The 32f8s, 32f8u, 32f16s and 32f16u forms round each
+ * output to nearest (ties to even) and saturate it to the integer type.
+ * Example (the Haar synthesis matching WTFwd's): g0 = {c, c}, g1 = {-c, c},
+ * offsets -1: qspsWTInv_32f(low, high, x, n / 2, st) returns x.
+ */
+QspStatus qspsWTInvGetSize(QspDataType dataType, int lenLow, int offsLow, int lenHigh, int offsHigh, int* pStateSize);
+QspStatus qspsWTInvInit_32f(QspsWTInvState_32f** ppState, const Qsp32f* pTapsLow, int lenLow, int offsLow, const Qsp32f* pTapsHigh, int lenHigh, int offsHigh, Qsp8u* pBuf);
+QspStatus qspsWTInv_32f(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp32f* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f8s(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp8s* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f8u(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp8u* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f16s(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp16s* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInv_32f16u(const Qsp32f* pSrcLow, const Qsp32f* pSrcHigh, Qsp16u* pDst, int srcLen, QspsWTInvState_32f* pState);
+QspStatus qspsWTInvGetDlyLine_32f(const QspsWTInvState_32f* pState, Qsp32f* pDlyLow, Qsp32f* pDlyHigh);
+QspStatus qspsWTInvSetDlyLine_32f(QspsWTInvState_32f* pState, const Qsp32f* pDlyLow, const Qsp32f* pDlyHigh);
 
 /* FIRMR ------------------------------------------------------------------- */
 /*
