@@ -220,8 +220,8 @@ QspStatus scaled(const S* pSrc, int len, C* pVal, float rFreq, int scaleFactor)
     if (!validFreq(rFreq)) return qspStsBadRelFreq;
     const Cx<double> x = ownsGoertz(pSrc, len, double(rFreq));
     using P = decltype(pVal->re);
-    *pVal = {rounding::toInt<rounding::kNear, P>(rounding::ldexp(x.re, -scaleFactor)),
-             rounding::toInt<rounding::kNear, P>(rounding::ldexp(x.im, -scaleFactor))};
+    const auto scale = rounding::PowerOfTwo::scaleFactor(scaleFactor);
+    *pVal = {rounding::toInt<rounding::kNear, P>(scale(x.re)), rounding::toInt<rounding::kNear, P>(scale(x.im))};
     return qspStsOk;
 }
 

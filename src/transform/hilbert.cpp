@@ -197,9 +197,9 @@ QspStatus qspsHilbert_16s16sc_Sfs(const Qsp16s* pSrc, Qsp16sc* pDst, const QspsH
                                   int scaleFactor)
 {
     using rounding::kNear;
+    const auto scale = rounding::PowerOfTwo::scaleFactor(scaleFactor);
     return analytic<float>(pSrc, pDst, pSpec, pBuffer, [=](Qsp64s n, float re, float im) {
-        pDst[n] = {rounding::toInt<kNear, Qsp16s>(rounding::ldexp(re, -scaleFactor)),
-                   rounding::toInt<kNear, Qsp16s>(rounding::ldexp(im, -scaleFactor))};
+        pDst[n] = {rounding::toInt<kNear, Qsp16s>(scale(re)), rounding::toInt<kNear, Qsp16s>(scale(im))};
     });
 }
 
