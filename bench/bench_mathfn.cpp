@@ -83,40 +83,34 @@ void registerCase(const std::string& name, const char* impl, Range r, Body body)
     }
 }
 
-template <class V>
-void vector4(const float* x, float* y, int n, V v)
+// Four floats or two doubles at a time through a 128-bit peer function.
+inline __m128 load(const float* p) { return _mm_loadu_ps(p); }
+inline __m128d load(const double* p) { return _mm_loadu_pd(p); }
+inline void store(float* p, __m128 v) { _mm_storeu_ps(p, v); }
+inline void store(double* p, __m128d v) { _mm_storeu_pd(p, v); }
+
+template <class T, class R>
+void vectorLoop(const T* x, T* y, int n, R (*v)(R))
 {
-    for (int i = 0; i < n; i += 4) _mm_storeu_ps(y + i, v(_mm_loadu_ps(x + i)));
-}
-template <class V>
-void vector2(const double* x, double* y, int n, V v)
-{
-    for (int i = 0; i < n; i += 2) _mm_storeu_pd(y + i, v(_mm_loadu_pd(x + i)));
+    for (int i = 0; i < n; i += int(16 / sizeof(T))) store(y + i, v(load(x + i)));
 }
 
-// A single-precision case: the library, SLEEF, libmvec and the libm loop.
-void single(const char* name, Range r, QspStatus (*qsp)(const Qsp32f*, Qsp32f*, int), __m128 (*sleef)(__m128),
-            __m128 (*mvec)(__m128), float (*libm)(float))
-{
-    registerCase(name, "qsp", r, [=](Data& d) { qsp(d.f(), d.fo(), d.n); });
-    registerCase(name, "sleef", r, [=](Data& d) { vector4(d.f(), d.fo(), d.n, sleef); });
-    registerCase(name, "mvec", r, [=](Data& d) { vector4(d.f(), d.fo(), d.n, mvec); });
-    registerCase(name, "libm", r, [=](Data& d) {
-        const float* x = d.f();
-        float* y = d.fo();
-        for (int i = 0; i < d.n; ++i) y[i] = libm(x[i]);
-    });
-}
+const float* source(const Data& d, float) { return d.f(); }
+const double* source(const Data& d, double) { return d.d(); }
+float* destination(Data& d, float) { return d.fo(); }
+double* destination(Data& d, double) { return d.dout(); }
 
-void twofold(const char* name, Range r, QspStatus (*qsp)(const Qsp64f*, Qsp64f*, int), __m128d (*sleef)(__m128d),
-             __m128d (*mvec)(__m128d), double (*libm)(double))
+// One case in one precision: the library, SLEEF, libmvec and the libm loop.
+template <class T, class R>
+void peerCase(const char* name, Range r, QspStatus (*qsp)(const T*, T*, int), R (*sleef)(R), R (*mvec)(R),
+              T (*libm)(T))
 {
-    registerCase(name, "qsp", r, [=](Data& d) { qsp(d.d(), d.dout(), d.n); });
-    registerCase(name, "sleef", r, [=](Data& d) { vector2(d.d(), d.dout(), d.n, sleef); });
-    registerCase(name, "mvec", r, [=](Data& d) { vector2(d.d(), d.dout(), d.n, mvec); });
+    registerCase(name, "qsp", r, [=](Data& d) { qsp(source(d, T()), destination(d, T()), d.n); });
+    registerCase(name, "sleef", r, [=](Data& d) { vectorLoop(source(d, T()), destination(d, T()), d.n, sleef); });
+    registerCase(name, "mvec", r, [=](Data& d) { vectorLoop(source(d, T()), destination(d, T()), d.n, mvec); });
     registerCase(name, "libm", r, [=](Data& d) {
-        const double* x = d.d();
-        double* y = d.dout();
+        const T* x = source(d, T());
+        T* y = destination(d, T());
         for (int i = 0; i < d.n; ++i) y[i] = libm(x[i]);
     });
 }
@@ -138,13 +132,13 @@ double libmLog(double x) { return std::log(x); }
 double libmAtan(double x) { return std::atan(x); }
 
 const bool registered = [] {
-    single("exp_32f", {-87.0, 88.0, false}, qspsExp_32f, sleefExpf, _ZGVbN4v_expf, libmExpf);
-    single("ln_32f", {-120.0, 120.0, true}, qspsLn_32f, sleefLogf, _ZGVbN4v_logf, libmLogf);
-    single("arctan_32f", {-100.0, 100.0, false}, qspsArctan_32f, sleefAtanf, _ZGVbN4v_atanf, libmAtanf);
-    single("cubrt_32f", {-1e10, 1e10, false}, qspsCubrt_32f, sleefCbrtf, _ZGVbN4v_cbrtf, libmCbrtf);
-    twofold("exp_64f", {-700.0, 700.0, false}, qspsExp_64f, sleefExp, _ZGVbN2v_exp, libmExp);
-    twofold("ln_64f", {-900.0, 900.0, true}, qspsLn_64f, sleefLog, _ZGVbN2v_log, libmLog);
-    twofold("arctan_64f", {-100.0, 100.0, false}, qspsArctan_64f, sleefAtan, _ZGVbN2v_atan, libmAtan);
+    peerCase("exp_32f", {-87.0, 88.0, false}, qspsExp_32f, sleefExpf, _ZGVbN4v_expf, libmExpf);
+    peerCase("ln_32f", {-120.0, 120.0, true}, qspsLn_32f, sleefLogf, _ZGVbN4v_logf, libmLogf);
+    peerCase("arctan_32f", {-100.0, 100.0, false}, qspsArctan_32f, sleefAtanf, _ZGVbN4v_atanf, libmAtanf);
+    peerCase("cubrt_32f", {-1e10, 1e10, false}, qspsCubrt_32f, sleefCbrtf, _ZGVbN4v_cbrtf, libmCbrtf);
+    peerCase("exp_64f", {-700.0, 700.0, false}, qspsExp_64f, sleefExp, _ZGVbN2v_exp, libmExp);
+    peerCase("ln_64f", {-900.0, 900.0, true}, qspsLn_64f, sleefLog, _ZGVbN2v_log, libmLog);
+    peerCase("arctan_64f", {-100.0, 100.0, false}, qspsArctan_64f, sleefAtan, _ZGVbN2v_atan, libmAtan);
     return true;
 }();
 
