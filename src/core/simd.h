@@ -454,6 +454,8 @@ struct Vec<Qsp32s> : IntRegOps {
     // Arithmetic shift by a constant, and lanes picked by index.
     template <int n>
     static Reg srai(Reg a) { return _mm_srai_epi32(a, n); }
+    template <int n>
+    static Reg slli(Reg a) { return _mm_slli_epi32(a, n); }
     template <int a, int b, int c, int d>
     static Reg shuffle(Reg r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(d, c, b, a)); }
 };

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
-// Two-argument arctangent in double precision (see arctan.h).
+// Arctan: atan x element by element, correctly rounded in single precision
+// and within 0.53 ULP in double (arctan.h); and the two-argument
+// arctangent in double precision for the phase of complex values.
 #include "arctan.h"
 
+#include "checks.h"
+#include "qsp_validators.h"
 #include "qspdefs.h"
 #include "simd.h"
 
@@ -130,3 +134,29 @@ void atan2(const double* y, const double* x, double* out, int n)
 }
 
 }  // namespace mathfn
+
+namespace y8 {
+namespace {
+
+QspStatus arctan32f(const Qsp32f* pSrc, Qsp32f* pDst, int len)
+{
+    if (QspStatus s = check::vectors(len, pSrc, pDst)) return s;
+    mathfn::qspsArctan_32f_A24(pSrc, pDst, len);
+    return qspStsOk;
+}
+
+QspStatus arctan64f(const Qsp64f* pSrc, Qsp64f* pDst, int len)
+{
+    if (QspStatus s = check::vectors(len, pSrc, pDst)) return s;
+    mathfn::qspsArctan_64f_A53(pSrc, pDst, len);
+    return qspStsOk;
+}
+
+}  // namespace
+
+QspStatus qspsArctan_32f(const Qsp32f* pSrc, Qsp32f* pDst, int len) { return arctan32f(pSrc, pDst, len); }
+QspStatus qspsArctan_32f_I(Qsp32f* pSrcDst, int len) { return arctan32f(pSrcDst, pSrcDst, len); }
+QspStatus qspsArctan_64f(const Qsp64f* pSrc, Qsp64f* pDst, int len) { return arctan64f(pSrc, pDst, len); }
+QspStatus qspsArctan_64f_I(Qsp64f* pSrcDst, int len) { return arctan64f(pSrcDst, pSrcDst, len); }
+
+}  // namespace y8

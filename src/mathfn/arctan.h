@@ -7,6 +7,10 @@
 //   void   qspsArctan_64f_A53(const double* pSrc, double* pDst, int len)
 //          the vector form: pDst[i] = qspsArctanOne(pSrc[i]) bit for bit, two
 //          lanes at a time; pDst may be pSrc; len <= 0 does nothing.
+//   float  qspsArctanOne_32f(float x)  atan x correctly rounded to float
+//   void   qspsArctan_32f_A24(const float* pSrc, float* pDst, Qsp64s len)
+//          the vector form of the latter, four at a time, the same bits
+//          (single.h)
 //   double atan2(double y, double x)  the angle of (x, y), within 2.5 ULP
 //   void   atan2(const double* y, const double* x, double* out, int n)
 //
@@ -40,6 +44,7 @@
 #pragma once
 #include "double_double.h"
 #include "lanes.h"
+#include "single.h"
 
 namespace mathfn {
 
@@ -255,6 +260,81 @@ inline void qspsArctan_64f_A53(const double* pSrc, double* pDst, int len)
         V::storeu(pDst + i, V::bitOr(r.v, V::bitAnd(x, V::signBit())));
     }
     if (i < len) pDst[i] = qspsArctanOne(pSrc[i]);
+}
+
+namespace atanfn {
+
+// Floats whose double-precision arctangent lies exactly halfway between
+// two floats, with the correctly rounded result (the first entry is a NaN
+// pattern, never a tie).
+constexpr single::Exception kSingleTies[] = {
+    {0xFFFFFFFFu, 0},
+    {0x3D8D6B23u, 0x3D8D31C3u},
+    {0xBD8D6B23u, 0xBD8D31C3u},
+};
+
+}  // namespace atanfn
+
+constexpr float qspsArctanOne_32f(float x) { return single::rounded(qspsArctanOne(double(x)), x, atanfn::kSingleTies); }
+
+namespace atanfn {
+
+// Single precision, fast evaluation for finite floats: the same points c
+// and identity as the double kernel, atan c rounded to double, atan u to
+// u^11 (the omitted term is below 2^-48 of u): the double result is within
+// 2^-47 of atan x relative, so less than 64 units of its last place.
+struct alignas(16) SingleEntry {
+    double c, a;
+};
+struct SingleTable {
+    SingleEntry e[130];
+};
+constexpr SingleTable singleTable()
+{
+    SingleTable t{};
+    for (int i = 0; i < 130; ++i) t.e[i] = {kTable[i].c, kTable[i].hi};
+    return t;
+}
+alignas(16) constexpr SingleTable kSingle = singleTable();
+constexpr Qsp32s kFirstBits32 = 0x3D800000;  // the bits of 2^-4 as a float
+
+struct Single {
+    static constexpr Qsp32s kSlack = 1024;
+    using F = simd::Vec<float>;
+    using D = simd::Vec<double>;
+    using I = simd::Vec<Qsp32s>;
+
+    static void evaluate(F::Reg x, D::Reg& y0, D::Reg& y1)
+    {
+        const I::Reg magnitude = I::bitAnd(F::bits(x), I::splat(0x7FFFFFFF));
+        const I::Reg index = I::min(
+            I::max(I::add(I::srai<19>(I::sub(magnitude, I::splat(kFirstBits32))), I::splat(1)), I::zero()),
+            I::splat(kLastIndex));
+        const D::Reg e0 = D::load(&kSingle.e[I::lane<0>(index)].c), e1 = D::load(&kSingle.e[I::lane<1>(index)].c);
+        const D::Reg e2 = D::load(&kSingle.e[I::lane<2>(index)].c), e3 = D::load(&kSingle.e[I::lane<3>(index)].c);
+        const F::Reg t = F::ofBits(magnitude), sign = F::bitAnd(x, F::signBit());
+        y0 = D::bitOr(half(D::widenLow(t), D::zipLo(e0, e1), D::zipHi(e0, e1)).v, D::widenLow(sign));
+        y1 = D::bitOr(half(D::widenHigh(t), D::zipLo(e2, e3), D::zipHi(e2, e3)).v, D::widenHigh(sign));
+    }
+    static Lanes2 half(Lanes2 t, Lanes2 c, Lanes2 a)
+    {
+        const Lanes2 u = (t - c) / (1.0 + t * c);
+        const Lanes2 u2 = u * u;
+        const Lanes2 p = -1.0 / 3 + u2 * (1.0 / 5 + u2 * (-1.0 / 7 + u2 * (1.0 / 9 + u2 * (-1.0 / 11))));
+        return (a + u) + (u * u2) * p;
+    }
+    static F::Reg outside(F::Reg x)
+    {
+        return F::ofBits(I::cmpgt(I::bitAnd(F::bits(x), I::splat(0x7FFFFFFF)), I::splat(0x7F7FFFFF)));
+    }
+    static float one(float x) { return qspsArctanOne_32f(x); }
+};
+
+}  // namespace atanfn
+
+inline void qspsArctan_32f_A24(const float* pSrc, float* pDst, Qsp64s len)
+{
+    single::run<atanfn::Single>(pSrc, pDst, len);
 }
 
 }  // namespace mathfn

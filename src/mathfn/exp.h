@@ -273,6 +273,11 @@ namespace expo {
 
 struct Single {
     static constexpr Qsp32s kSlack = 4096;
+    static void evaluate(simd::Vec<float>::Reg x, simd::Vec<double>::Reg& y0, simd::Vec<double>::Reg& y1)
+    {
+        y0 = lanes(simd::Vec<double>::widenLow(x)).v;
+        y1 = lanes(simd::Vec<double>::widenHigh(x)).v;
+    }
     static Lanes2 lanes(Lanes2 x)
     {
         using V = simd::Vec<double>;

@@ -8,6 +8,9 @@
 //   void   qspsLn_64f_A53(const double* pSrc, double* pDst, int len)
 //          the vector form: pDst[i] = qspsLnOne(pSrc[i]) bit for bit, two
 //          lanes at a time; pDst may be pSrc; len <= 0 does nothing.
+//   float  qspsLnOne_32f(float x)  ln x correctly rounded to float
+//   void   qspsLn_32f_A24(const float* pSrc, float* pDst, Qsp64s len)
+//          the vector form, four at a time, the same bits (single.h)
 //
 // The one-element function is constexpr for positive finite arguments;
 // none needs a library call. Special values: ln(+-0) = -infinity,
@@ -32,6 +35,7 @@
 #include "basic.h"
 #include "double_double.h"
 #include "lanes.h"
+#include "single.h"
 
 namespace mathfn {
 namespace lnfn {
@@ -261,5 +265,82 @@ inline void qspsLn_64f_A53(const double* pSrc, double* pDst, int len)
     }
     if (i < len) pDst[i] = qspsLnOne(pSrc[i]);
 }
+
+namespace lnfn {
+
+// Floats whose double-precision logarithm lies exactly halfway between two
+// floats, with the correctly rounded result (the first entry is a NaN
+// pattern, never a tie).
+constexpr single::Exception kSingleTies[] = {
+    {0xFFFFFFFFu, 0},          {0x3C413D3Au, 0xC08E158Fu}, {0x41178FEBu, 0x400FE5E7u},
+    {0x4C5D65A5u, 0x418F034Bu}, {0x65D890D3u, 0x4254D1F9u}, {0x6F31A8ECu, 0x42845A89u},
+};
+
+}  // namespace lnfn
+
+constexpr float qspsLnOne_32f(float x) { return single::rounded(qspsLnOne(double(x)), x, lnfn::kSingleTies); }
+
+namespace lnfn {
+
+// Single precision, fast evaluation for positive normal floats. The split
+// is done on the floats' bits, four lanes at a time: m in [sqrt(1/2),
+// sqrt(2)) and e, j = m 128 rounded. m has 24 bits, so m c - 1 = r is
+// exact in double; ln(1 + r) to r^5 (the omitted term is below 2^-46 of
+// r), ln(1/c) and ln 2 rounded to double: the double result is within
+// 2^-45 of ln x relative, less than 256 units of its last place.
+struct alignas(16) SingleEntry {
+    double c, l;
+};
+struct SingleTable {
+    SingleEntry e[93];
+};
+constexpr SingleTable singleTable()
+{
+    SingleTable t{};
+    for (int i = 0; i < 93; ++i) t.e[i] = {kTable[i].c, kTable[i].hi};
+    return t;
+}
+alignas(16) constexpr SingleTable kSingle = singleTable();
+
+constexpr Qsp32s kHalfSqrt2Bits = 0x3F3504F3;  // sqrt(1/2) rounded down to float
+constexpr float kRoundShift32 = 12582912.0f;    // 1.5 2^23: rounds a float below 2^22 to an integer
+constexpr double kLn2 = 0x1.62e42fefa39efp-1;
+
+struct Single {
+    static constexpr Qsp32s kSlack = 1024;
+    static void evaluate(simd::Vec<float>::Reg x, simd::Vec<double>::Reg& y0, simd::Vec<double>::Reg& y1)
+    {
+        using F = simd::Vec<float>;
+        using D = simd::Vec<double>;
+        using I = simd::Vec<Qsp32s>;
+        const I::Reg bits = F::bits(x);
+        const I::Reg e = I::srai<23>(I::sub(bits, I::splat(kHalfSqrt2Bits)));
+        const F::Reg m = F::ofBits(I::sub(bits, I::slli<23>(e)));
+        const I::Reg j = I::sub(F::bits(F::add(F::mul(m, F::splat(128.0f)), F::splat(kRoundShift32))),
+                                I::splat(Qsp32s(single::floatBits(kRoundShift32)) + kFirst));
+        const D::Reg t0 = D::load(&kSingle.e[I::lane<0>(j)].c), t1 = D::load(&kSingle.e[I::lane<1>(j)].c);
+        const D::Reg t2 = D::load(&kSingle.e[I::lane<2>(j)].c), t3 = D::load(&kSingle.e[I::lane<3>(j)].c);
+        y0 = half(D::widenLow(m), D::fromInt32(e), D::zipLo(t0, t1), D::zipHi(t0, t1)).v;
+        y1 = half(D::widenHigh(m), D::fromInt32(I::shuffle<2, 3, 2, 3>(e)), D::zipLo(t2, t3), D::zipHi(t2, t3)).v;
+    }
+    static Lanes2 half(Lanes2 m, Lanes2 e, Lanes2 c, Lanes2 l)
+    {
+        const Lanes2 r = m * c - 1.0;
+        const Lanes2 p = r + (r * r) * (-0.5 + r * (1.0 / 3 + r * (-0.25 + r * 0.2)));
+        return (e * kLn2 + l) + p;
+    }
+    static simd::Vec<float>::Reg outside(simd::Vec<float>::Reg x)
+    {
+        using F = simd::Vec<float>;
+        using I = simd::Vec<Qsp32s>;
+        const I::Reg bits = F::bits(x);
+        return F::ofBits(I::bitOr(I::cmpgt(I::splat(0x00800000), bits), I::cmpgt(bits, I::splat(0x7F7FFFFF))));
+    }
+    static float one(float x) { return qspsLnOne_32f(x); }
+};
+
+}  // namespace lnfn
+
+inline void qspsLn_32f_A24(const float* pSrc, float* pDst, Qsp64s len) { single::run<lnfn::Single>(pSrc, pDst, len); }
 
 }  // namespace mathfn

@@ -81,10 +81,11 @@ struct RoundingTest {
     }
 };
 
-// Runs a single-precision function over a vector: K::lanes(x) evaluates
-// two doubles (the widened floats) with error below K::kSlack units,
-// K::outside(x) marks the float lanes the fast evaluation does not cover,
-// and K::one(x) is the correctly rounded one-element function.
+// Runs a single-precision function over a vector: K::evaluate(x, y0, y1)
+// evaluates four floats in two registers of doubles (elements 0, 1 and 2,
+// 3) with error below K::kSlack units, K::outside(x) marks the lanes the
+// fast evaluation does not cover, and K::one(x) is the correctly rounded
+// one-element function.
 template <class K>
 void run(const float* pSrc, float* pDst, Qsp64s len)
 {
@@ -95,9 +96,10 @@ void run(const float* pSrc, float* pDst, Qsp64s len)
     Qsp64s i = 0;
     for (; i + 4 <= len; i += 4) {
         const F::Reg x = F::loadu(pSrc + i);
-        const Lanes2 y0 = K::lanes(Lanes2(D::widenLow(x))), y1 = K::lanes(Lanes2(D::widenHigh(x)));
-        const int redo = I::anyMask(I::bitOr(test.unsettled(y0.v, y1.v), F::bits(K::outside(x))));
-        F::Reg out = D::narrow(y0.v, y1.v);
+        D::Reg y0, y1;
+        K::evaluate(x, y0, y1);
+        const int redo = I::anyMask(I::bitOr(test.unsettled(y0, y1), F::bits(K::outside(x))));
+        F::Reg out = D::narrow(y0, y1);
         if (redo != 0) [[unlikely]] {
             alignas(16) float lane[4];
             F::store(lane, out);

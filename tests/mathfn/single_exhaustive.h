@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <cstring>
 #include <mutex>
+#include <random>
 #include <string>
 #include <thread>
 #include <vector>
@@ -118,6 +119,34 @@ inline void checkRange(const SingleFunction& f, uint64_t from, uint64_t to, Outc
     out.settledByMpfr += mpfrCalls;
     for (auto& e : examples)
         if (out.examples.size() < 20) out.examples.push_back(e);
+}
+
+// A sample of n random bit patterns and of n random normal floats of
+// moderate magnitude, each against MPFR.
+inline Outcome checkSample(const SingleFunction& f, int n, uint64_t seed)
+{
+    Outcome out;
+    std::mt19937_64 rng(seed);
+    std::vector<float> x(2 * n), y(2 * n);
+    for (int i = 0; i < n; ++i) {
+        const uint32_t bits = uint32_t(rng());
+        std::memcpy(&x[i], &bits, 4);
+        x[n + i] = std::ldexp(std::uniform_real_distribution<float>(-1, 1)(rng), int(rng() % 40) - 20);
+    }
+    f.vector(x.data(), y.data(), 2 * n);
+    for (int i = 0; i < 2 * n; ++i) {
+        const float want = mpfrRounded(f.mpfr, x[i]);
+        const float one = f.one(x[i]);
+        if (!sameResult(y[i], want) || !sameResult(one, want)) {
+            if (++out.mismatches <= 20) {
+                char line[160];
+                std::snprintf(line, sizeof line, "%s(%a): vector %a, one %a, correctly rounded %a", f.name, double(x[i]),
+                              double(y[i]), double(one), double(want));
+                out.examples.push_back(line);
+            }
+        }
+    }
+    return out;
 }
 
 inline Outcome checkAll(const SingleFunction& f)
