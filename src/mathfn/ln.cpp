@@ -105,7 +105,8 @@ Complex lnComplex(double a, double b)
         int k = int((mathfn::bitsOf(big) >> 52) & 0x7FF) - 1023;
         if (k == -1023) k = -1022 - 52 + (63 - __builtin_clzll(mathfn::bitsOf(big)));  // subnormal
         if (k == -1 || k == 0) k = 0;
-        const double x = rounding::ldexp(a, -k), y = rounding::ldexp(b, -k);
+        const auto scale = rounding::PowerOfTwo::scaleFactor(k);  // 2^-k, exact for a; b only where it no longer matters
+        const double x = scale(a), y = scale(b);
         const mathfn::Pair<double> s = mathfn::extended::add(mathfn::twoSquare(x), mathfn::twoSquare(y));
         const double kd = double(k);
         re = kd * mathfn::lnfn::kLn2Hi + (kd * mathfn::lnfn::kLn2Lo + halfLn(s));
