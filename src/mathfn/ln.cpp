@@ -105,7 +105,9 @@ Complex lnComplex(double a, double b)
         int k = int((mathfn::bitsOf(big) >> 52) & 0x7FF) - 1023;
         if (k == -1023) k = -1022 - 52 + (63 - __builtin_clzll(mathfn::bitsOf(big)));  // subnormal
         if (k == -1 || k == 0) k = 0;
-        const auto scale = rounding::PowerOfTwo::scaleFactor(k);  // 2^-k, exact for a; b only where it no longer matters
+        // 2^-k: exact for the larger part; the smaller is rounded only below
+        // the normal range, where its square no longer changes the sum.
+        const auto scale = rounding::PowerOfTwo::scaleFactor(k);
         const double x = scale(a), y = scale(b);
         const mathfn::Pair<double> s = mathfn::extended::add(mathfn::twoSquare(x), mathfn::twoSquare(y));
         const double kd = double(k);
