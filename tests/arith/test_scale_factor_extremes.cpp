@@ -16,6 +16,7 @@
 #include <fstream>
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <sstream>
 
@@ -647,9 +648,298 @@ void registerAll()
     reduction2(QSPS(DotProd_32s_Sfs), total2(s32, t32, product), s32, t32);
 }
 
+// ---------------------------------------------------------------------------
+// Scaled functions of the elementary-function, transform and filter
+// families. At these scale factors a result is 0 or saturated unless its
+// exact value lies beyond 2^+-1000 (only the exponential gets there), so a
+// long double evaluation decides every element; the filters run with taps
+// whose exact output is half the input, and the Hilbert transform's
+// imaginary parts are those of its single-precision form, which the scaled
+// form rounds.
+
+// Positive operands (logarithms of integers).
+template <class T>
+std::vector<T> positive()
+{
+    std::vector<T> v = nonNegative<T>();
+    for (T& x : v) x = x == 0 ? T(1) : x;
+    return v;
+}
+
+template <class S, class D, class F>
+void elementary(const char* name, QspStatus (*fn)(const S*, D*, int, int), const char* nameI,
+                QspStatus (*fnI)(D*, int, int), F f, std::vector<S> a)
+{
+    auto exactAt = [=](int i) { return Exact{f(LD(a[i]))}; };
+    auto call = [fn](const S* x, D* y, int n, int, int sf) { return fn(x, y, n, sf); };
+    if constexpr (std::is_same_v<S, D>) {
+        if (fnI) {
+            auto callI = [fnI](D* x, int n, int, int sf) { return fnI(x, n, sf); };
+            oneVector<S, D>(name, call, nameI, callI, exactAt, a);
+            return;
+        }
+    }
+    oneVector<S, D>(name, call, nameI, nullptr, exactAt, a);
+}
+
+// e^x 2^-s rounded and saturated, from log2 of the scaled value (x log2 e
+// - s), which no floating type could hold as a value for every x and s.
+template <class D>
+Qsp64s expRule(LD x, int s)
+{
+    const LD l2 = x * 1.4426950408889634073599246810018921L - LD(s);
+    if (l2 > 80) return std::numeric_limits<D>::max();
+    if (l2 < -80) return 0;
+    return rule<D>(std::exp2(l2), 0, 1);
+}
+
+// The exponential's integer forms: e^x overflows the destination at many
+// of these operands, which the warning qspStsWarnOutOfDomain reports.
+template <class T>
+void exponential(const char* name, QspStatus (*fn)(const T*, T*, int, int), const char* nameI,
+                 QspStatus (*fnI)(T*, int, int))
+{
+    const std::vector<T> a = operands<T>();
+    auto check = [a](const std::vector<T>& d, QspStatus st, int sf) {
+        ASSERT_TRUE(st == qspStsOk || st == qspStsWarnOutOfDomain) << "status " << st;
+        for (int i = 0; i < kLen; ++i)
+            ASSERT_EQ(Qsp64s(d[i]), expRule<T>(LD(a[i]), sf)) << "element " << i << ", x = " << Qsp64s(a[i]);
+    };
+    add(name, [=](int sf) {
+        std::vector<T> d(kLen);
+        const QspStatus st = fn(a.data(), d.data(), kLen, sf);
+        check(d, st, sf);
+    });
+    add(nameI, [=](int sf) {
+        std::vector<T> d = a;
+        const QspStatus st = fnI(d.data(), kLen, sf);
+        check(d, st, sf);
+    });
+}
+
+// A filter run by run(pSrc, pDst, sf) on 16-bit (or 32-bit) samples with
+// taps that halve them: each result is the exact x/2, scaled.
+template <class T, class Run2>
+void halving(const char* name, Run2 run)
+{
+    const std::vector<T> a = operands<T>();
+    add(name, [=](int sf) {
+        std::vector<T> d = a;
+        ASSERT_EQ(run(a, d, sf), qspStsOk);
+        expectRule(d.data(), kLen, [&](int i) { return Exact{re(a[i]) / 2, im(a[i]) / 2}; }, sf);
+    });
+}
+
+// IIR states of order 1 with taps b = (1/2, 0), a = (1, 0), in caller memory
+// that lives as long as the case.
+template <class Tap, class State>
+std::shared_ptr<std::vector<Qsp8u>> halvingIir(QspStatus (*getSize)(int, int*),
+                                               QspStatus (*init)(State**, const Tap*, int, const Tap*, Qsp8u*),
+                                               State** ppState)
+{
+    int size = 0;
+    EXPECT_EQ(getSize(1, &size), qspStsOk);
+    auto mem = std::make_shared<std::vector<Qsp8u>>(static_cast<size_t>(size));
+    Tap taps[4] = {};
+    if constexpr (isComplex<Tap>) {
+        taps[0].re = 0.5;
+        taps[2].re = 1;
+    } else {
+        taps[0] = Tap(0.5);
+        taps[2] = Tap(1);
+    }
+    EXPECT_EQ(init(ppState, taps, 1, nullptr, mem->data()), qspStsOk);
+    return mem;
+}
+
+// A single-channel IIR form and its in-place form.
+template <class T, class Tap, class State>
+void iirScaled(const char* name, QspStatus (*fn)(const T*, T*, int, State*, int), const char* nameI,
+               QspStatus (*fnI)(T*, int, State*, int), QspStatus (*getSize)(int, int*),
+               QspStatus (*init)(State**, const Tap*, int, const Tap*, Qsp8u*))
+{
+    halving<T>(name, [=](const std::vector<T>& a, std::vector<T>& d, int sf) {
+        State* st = nullptr;
+        const auto mem = halvingIir<Tap, State>(getSize, init, &st);
+        return fn(a.data(), d.data(), kLen, st, sf);
+    });
+    halving<T>(nameI, [=](const std::vector<T>&, std::vector<T>& d, int sf) {
+        State* st = nullptr;
+        const auto mem = halvingIir<Tap, State>(getSize, init, &st);
+        return fnI(d.data(), kLen, st, sf);
+    });
+}
+
+// Sums of products of 16-bit operands, exact in 64 bits.
+std::vector<Qsp64s> fullConvolution(const std::vector<Qsp16s>& x, const std::vector<Qsp16s>& h)
+{
+    std::vector<Qsp64s> c(x.size() + h.size() - 1, 0);
+    for (size_t i = 0; i < x.size(); ++i)
+        for (size_t j = 0; j < h.size(); ++j) c[i + j] += Qsp64s(x[i]) * h[j];
+    return c;
+}
+
+// Goertzel at relative frequency 0: the plain sum of the samples.
+template <class S, class D>
+void goertz(const char* name, QspStatus (*fn)(const S*, int, D*, Qsp32f, int))
+{
+    const std::vector<S> a = operands<S>();
+    add(name, [=](int sf) {
+        LD sumRe = 0, sumIm = 0;
+        for (const S& x : a) sumRe += re(x), sumIm += im(x);
+        D got{};
+        ASSERT_EQ(fn(a.data(), kLen, &got, 0.0f, sf), qspStsOk);
+        expectRule(&got, 1, [&](int) { return Exact{sumRe, sumIm}; }, sf);
+    });
+}
+
+void registerOtherFamilies()
+{
+    elementary(QSPS(Ln_16s_Sfs), QSPS(Ln_16s_ISfs), [](LD x) { return std::log(x); }, positive<Qsp16s>());
+    elementary(QSPS(Ln_32s_Sfs), QSPS(Ln_32s_ISfs), [](LD x) { return std::log(x); }, positive<Qsp32s>());
+    elementary(QSPS(Ln_64s_Sfs), QSPS(Ln_64s_ISfs), [](LD x) { return std::log(x); }, positive<Qsp64s>());
+    elementary<Qsp32s, Qsp16s>(QSPS(Ln_32s16s_Sfs), nullptr, nullptr, [](LD x) { return std::log(x); },
+                               positive<Qsp32s>());
+    elementary<Qsp16s, Qsp16s>(QSPS(Cubrt_16s_Sfs), nullptr, nullptr, [](LD x) { return std::cbrt(x); },
+                               operands<Qsp16s>());
+    elementary<Qsp32s, Qsp16s>(QSPS(Cubrt_32s16s_Sfs), nullptr, nullptr, [](LD x) { return std::cbrt(x); },
+                               operands<Qsp32s>());
+    exponential(QSPS(Exp_16s_Sfs), QSPS(Exp_16s_ISfs));
+    exponential(QSPS(Exp_32s_Sfs), QSPS(Exp_32s_ISfs));
+    exponential(QSPS(Exp_64s_Sfs), QSPS(Exp_64s_ISfs));
+
+    goertz<Qsp16s, Qsp16sc>(QSPS(Goertz_16s_Sfs));
+    goertz<Qsp16sc, Qsp16sc>(QSPS(Goertz_16sc_Sfs));
+    goertz<Qsp32s, Qsp32sc>(QSPS(Goertz_32s_Sfs));
+    goertz<Qsp32sc, Qsp32sc>(QSPS(Goertz_32sc_Sfs));
+
+    add("Hilbert_16s16sc_Sfs", [](int sf) {
+        const std::vector<Qsp16s> a = operands<Qsp16s>();
+        int specSize = 0, bufSize = 0;
+        ASSERT_EQ(qspsHilbertGetSize_32f32fc(kLen, qspAlgHintNone, &specSize, &bufSize), qspStsOk);
+        std::vector<Qsp8u> spec(static_cast<size_t>(specSize)), buf(static_cast<size_t>(bufSize) + 1);
+        QspsHilbertSpec_32f* pSpec = nullptr;
+        ASSERT_EQ(qspsHilbertInit_32f32fc(&pSpec, kLen, qspAlgHintNone, spec.data(), buf.data()), qspStsOk);
+        std::vector<Qsp32f> x(a.begin(), a.end());
+        std::vector<Qsp32fc> analytic(kLen);
+        ASSERT_EQ(qspsHilbert_32f32fc(x.data(), analytic.data(), pSpec, buf.data()), qspStsOk);
+        std::vector<Qsp16sc> d(kLen);
+        ASSERT_EQ(qspsHilbert_16s16sc_Sfs(a.data(), d.data(), pSpec, buf.data(), sf), qspStsOk);
+        expectRule(d.data(), kLen, [&](int i) { return Exact{LD(a[i]), LD(analytic[i].im)}; }, sf);
+    });
+
+    add("WTHaarFwd_16s_Sfs", [](int sf) {
+        const std::vector<Qsp16s> a = operands<Qsp16s>();
+        std::vector<Qsp16s> low(kLen / 2), high(kLen / 2);
+        ASSERT_EQ(qspsWTHaarFwd_16s_Sfs(a.data(), low.data(), high.data(), kLen, sf), qspStsOk);
+        expectRule(low.data(), kLen / 2, [&](int k) { return Exact{(LD(a[2 * k]) + a[2 * k + 1]) / 2}; }, sf);
+        expectRule(high.data(), kLen / 2, [&](int k) { return Exact{(LD(a[2 * k + 1]) - a[2 * k]) / 2}; }, sf);
+    });
+    add("WTHaarInv_16s_Sfs", [](int sf) {
+        const std::vector<Qsp16s> low = operands<Qsp16s>(), high = nonNegative<Qsp16s>();
+        std::vector<Qsp16s> d(2 * kLen);
+        ASSERT_EQ(qspsWTHaarInv_16s_Sfs(low.data(), high.data(), d.data(), 2 * kLen, sf), qspStsOk);
+        expectRule(d.data(), 2 * kLen,
+                   [&](int n) { return Exact{LD(low[n / 2]) + (n % 2 ? LD(high[n / 2]) : -LD(high[n / 2]))}; }, sf);
+    });
+
+    // Convolution and correlation of two 200-sample operands (exact sums).
+    const std::vector<Qsp16s> x0 = operands<Qsp16s>();
+    const std::vector<Qsp16s> x(x0.begin(), x0.begin() + 200), h(x0.begin() + 200, x0.begin() + 400);
+    const int n = 200, full = 2 * n - 1;
+    add("Convolve_16s_Sfs", [=](int sf) {
+        const std::vector<Qsp64s> c = fullConvolution(x, h);
+        int bufSize = 0;
+        ASSERT_EQ(qspsConvolveGetBufferSize(n, n, qsp16s, qspAlgAuto, &bufSize), qspStsOk);
+        std::vector<Qsp8u> buf(static_cast<size_t>(bufSize) + 1);
+        std::vector<Qsp16s> d(full);
+        ASSERT_EQ(qspsConvolve_16s_Sfs(x.data(), h.data(), d.data(), n, n, qspAlgAuto, buf.data(), sf), qspStsOk);
+        expectRule(d.data(), full, [&](int i) { return Exact{LD(c[i])}; }, sf);
+    });
+    add("ConvBiased_16s_Sfs", [=](int sf) {
+        const std::vector<Qsp64s> c = fullConvolution(x, h);
+        std::vector<Qsp16s> d(full);
+        ASSERT_EQ(qspsConvBiased_16s_Sfs(x.data(), h.data(), d.data(), n, n, full, 0, sf), qspStsOk);
+        expectRule(d.data(), full, [&](int i) { return Exact{LD(c[i])}; }, sf);
+    });
+    add("CrossCorrNorm_16s_Sfs", [=](int sf) {
+        // r[lag] = sum of h[m+lag] x[m], lags -(n-1) .. n-1: the convolution
+        // of h with x reversed.
+        const std::vector<Qsp16s> xr(x.rbegin(), x.rend());
+        const std::vector<Qsp64s> c = fullConvolution(xr, h);
+        int bufSize = 0;
+        ASSERT_EQ(qspsCrossCorrNormGetBufferSize(n, n, full, -(n - 1), qsp16s, qspAlgAuto, &bufSize), qspStsOk);
+        std::vector<Qsp8u> buf(static_cast<size_t>(bufSize) + 1);
+        std::vector<Qsp16s> d(full);
+        ASSERT_EQ(qspsCrossCorrNorm_16s_Sfs(x.data(), h.data(), d.data(), n, n, full, -(n - 1), qspAlgAuto,
+                                            qspNormNone, buf.data(), sf),
+                  qspStsOk);
+        expectRule(d.data(), full, [&](int i) { return Exact{LD(c[i])}; }, sf);
+    });
+    add("AutoCorrNorm_16s_Sfs", [=](int sf) {
+        int bufSize = 0;
+        ASSERT_EQ(qspsAutoCorrNormGetBufferSize(n, n, qsp16s, qspAlgAuto, &bufSize), qspStsOk);
+        std::vector<Qsp8u> buf(static_cast<size_t>(bufSize) + 1);
+        std::vector<Qsp16s> d(n);
+        ASSERT_EQ(qspsAutoCorrNorm_16s_Sfs(x.data(), d.data(), n, n, qspAlgAuto, qspNormNone, buf.data(), sf),
+                  qspStsOk);
+        expectRule(d.data(), n, [&](int k) {
+            Qsp64s r = 0;
+            for (int m = 0; m + k < n; ++m) r += Qsp64s(x[m + k]) * x[m];
+            return Exact{LD(r)};
+        }, sf);
+    });
+
+    iirScaled(QSPS(IIR32f_16s_Sfs), QSPS(IIR32f_16s_ISfs), qspsIIRGetStateSize32f_16s, qspsIIRInit32f_16s);
+    iirScaled(QSPS(IIR64f_16s_Sfs), QSPS(IIR64f_16s_ISfs), qspsIIRGetStateSize64f_16s, qspsIIRInit64f_16s);
+    iirScaled(QSPS(IIR64f_32s_Sfs), QSPS(IIR64f_32s_ISfs), qspsIIRGetStateSize64f_32s, qspsIIRInit64f_32s);
+    iirScaled(QSPS(IIR32fc_16sc_Sfs), QSPS(IIR32fc_16sc_ISfs), qspsIIRGetStateSize32fc_16sc,
+              qspsIIRInit32fc_16sc);
+    iirScaled(QSPS(IIR64fc_16sc_Sfs), QSPS(IIR64fc_16sc_ISfs), qspsIIRGetStateSize64fc_16sc,
+              qspsIIRInit64fc_16sc);
+    iirScaled(QSPS(IIR64fc_32sc_Sfs), QSPS(IIR64fc_32sc_ISfs), qspsIIRGetStateSize64fc_32sc,
+              qspsIIRInit64fc_32sc);
+    // The multi-channel forms with one channel.
+    halving<Qsp32s>("IIR64f_32s_PSfs", [](const std::vector<Qsp32s>& a, std::vector<Qsp32s>& d, int sf) {
+        QspsIIRState64f_32s* st = nullptr;
+        const auto mem = halvingIir<Qsp64f>(qspsIIRGetStateSize64f_32s, qspsIIRInit64f_32s, &st);
+        const Qsp32s* src[1] = {a.data()};
+        Qsp32s* dst[1] = {d.data()};
+        return qspsIIR64f_32s_PSfs(src, dst, kLen, 1, &st, sf);
+    });
+    halving<Qsp32s>("IIR64f_32s_IPSfs", [](const std::vector<Qsp32s>&, std::vector<Qsp32s>& d, int sf) {
+        QspsIIRState64f_32s* st = nullptr;
+        const auto mem = halvingIir<Qsp64f>(qspsIIRGetStateSize64f_32s, qspsIIRInit64f_32s, &st);
+        Qsp32s* srcDst[1] = {d.data()};
+        return qspsIIR64f_32s_IPSfs(srcDst, kLen, 1, &st, sf);
+    });
+
+    // Sparse filters with the one tap 1/2 at delay 0 (and no feedback).
+    halving<Qsp16s>("FIRSparse32f_16s_Sfs", [](const std::vector<Qsp16s>& a, std::vector<Qsp16s>& d, int sf) {
+        int size = 0;
+        EXPECT_EQ(qspsFIRSparseGetStateSize32f_16s(1, 0, &size), qspStsOk);
+        std::vector<Qsp8u> mem(static_cast<size_t>(size));
+        const Qsp32f tap = 0.5f;
+        const int pos = 0;
+        QspsFIRSparseState32f_16s* st = nullptr;
+        EXPECT_EQ(qspsFIRSparseInit32f_16s(&st, &tap, &pos, 1, nullptr, mem.data()), qspStsOk);
+        return qspsFIRSparse32f_16s_Sfs(a.data(), d.data(), kLen, st, sf);
+    });
+    halving<Qsp16s>("IIRSparse32f_16s_Sfs", [](const std::vector<Qsp16s>& a, std::vector<Qsp16s>& d, int sf) {
+        int size = 0;
+        EXPECT_EQ(qspsIIRSparseGetStateSize32f_16s(1, 0, 0, 0, &size), qspStsOk);
+        std::vector<Qsp8u> mem(static_cast<size_t>(size));
+        const Qsp32f tap = 0.5f;
+        const int pos = 0;
+        QspsIIRSparseState32f_16s* st = nullptr;
+        EXPECT_EQ(qspsIIRSparseInit32f_16s(&st, &tap, &pos, 1, 0, nullptr, mem.data()), qspStsOk);
+        return qspsIIRSparse32f_16s_Sfs(a.data(), d.data(), kLen, st, sf);
+    });
+}
+
 const std::map<std::string, Run>& allCases()
 {
-    static const bool registered = (registerAll(), true);
+    static const bool registered = (registerAll(), registerOtherFamilies(), true);
     (void)registered;
     return cases();
 }
