@@ -175,13 +175,18 @@ def readme_section(families, total):
             folders.append(fam.folder)
     out = [README_BEGIN, '']
     w = out.append
-    w('%s of the %s functions of the interface are implemented and exported;' % (
-        format(done, ','), format(total, ',')))
-    w('the others are planned: they are listed in the API table and not yet in')
-    w('the library or its header. A family shows its count of functions, and')
-    w('"d of n" while only some of them exist; a folder with no available')
-    w('family exports nothing yet. After rows of `api/qsps.api` change, one')
-    w('command regenerates this list and `docs/api.md`:')
+    if done == total:
+        w('All %s functions of the interface are implemented and exported. A' % format(total, ','))
+        w('family shows its count of functions. After rows of `api/qsps.api`')
+        w('change, one command regenerates this list and `docs/api.md`:')
+    else:
+        w('%s of the %s functions of the interface are implemented and exported;' % (
+            format(done, ','), format(total, ',')))
+        w('the others are planned: they are listed in the API table and not yet in')
+        w('the library or its header. A family shows its count of functions, and')
+        w('"d of n" while only some of them exist; a folder with no available')
+        w('family exports nothing yet. After rows of `api/qsps.api` change, one')
+        w('command regenerates this list and `docs/api.md`:')
     w('')
     w('```sh')
     w(REGENERATE)
