@@ -272,7 +272,9 @@ TYPED_TEST(FIRSparseTyped, StatusesInOrderAndNothingWritten)
 
     // A record of another kind (an FIRSparse state of another type, an
     // IIRSparse state) is refused, and neither is changed.
-    std::vector<Qsp8u> other(4096 + 64);
+    int otherSize = 0;
+    ASSERT_EQ(qspsIIRSparseGetStateSize_32f(1, 1, 0, 1, &otherSize), qspStsOk);
+    std::vector<Qsp8u> other(static_cast<size_t>(otherSize));
     QspsIIRSparseState_32f* foreign = nullptr;
     const Qsp32f ft[2] = {1, 0.5f};
     const int fp[2] = {0, 1};

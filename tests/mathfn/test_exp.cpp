@@ -305,7 +305,9 @@ TEST(Exp, Scaled32sAnd64sAgainstMpfr)
     std::mt19937_64 rng(710);
     for (int i = 0; i < 20000; ++i) {
         const Qsp64s xv = Qsp64s(rng() % 2000) - 1000 + ((rng() & 1) ? Qsp64s(rng() % 3000000000ull) - 1500000000 : 0);
-        const int s = int(std::floor(double(xv) * 1.4426950408889634)) - int(rng() % 66) + 1;
+        // near x log2(e), formed in 64 bits and clamped to the int range
+        const Qsp64s sWide = Qsp64s(std::floor(double(xv) * 1.4426950408889634)) - Qsp64s(rng() % 66) + 1;
+        const int s = int(std::clamp<Qsp64s>(sWide, INT32_MIN, INT32_MAX));
         const Qsp32s x32 = Qsp32s(std::clamp<Qsp64s>(xv, INT32_MIN, INT32_MAX));
         Qsp32s y32;
         Qsp64s y64;
