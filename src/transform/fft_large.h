@@ -55,14 +55,18 @@ template <class T>
 inline constexpr Qsp64s kLargeBand = 64 / Qsp64s(sizeof(C<T>));
 
 // Columns per batch: R x B values in each of the column phase's two
-// buffers, about 128 KiB each (in the second-level cache), and never fewer
-// than a cache line of columns. Wide batches keep the column transforms'
-// inner loops long and make the batch-start factors (R per batch) cheap.
+// buffers, about 512 KiB each, and never fewer than a cache line of
+// columns. Wide batches keep the column transforms' inner loops long, make
+// the batch-start factors (R per batch) cheap, and above all read more of
+// each source row per visit: rows lie C values apart, each on a page of its
+// own, so a narrow batch pays a page walk for every cache line it gathers.
+// (Against 128 KiB, 512 KiB measured 1.1-1.35x faster at double-precision
+// orders 20..22, and no slower elsewhere within the noise.)
 template <class T>
 inline Qsp64s largeBatch(int order)
 {
     const Qsp64s r = Qsp64s(1) << largeShape(order).rowsOrder;
-    Qsp64s b = (Qsp64s(128) << 10) / (r * Qsp64s(sizeof(C<T>)));
+    Qsp64s b = (Qsp64s(512) << 10) / (r * Qsp64s(sizeof(C<T>)));
     if (b < kLargeBand<T>) b = kLargeBand<T>;
     return b;
 }
