@@ -24,13 +24,12 @@
 //     first moved, as it is, to tile (a, c), whose data band a has already
 //     taken. Band a therefore finds its data for column bands c < a in
 //     tile (c, a).
-//  3. for R = 2C the two squares (rows 0..C-1 and C..2C-1) are transposed
-//     so by step 2, which leaves [P^T ; Q^T]; the result, whose row j is
-//     [P^T row j, Q^T row j], is reached by moving rows of C values: row i
-//     goes to 2i mod (2C - 1), row 2C - 1 stays. The cycles of that
-//     permutation are the rotations of (ceil(order/2))-bit numbers, each
-//     followed once from its smallest member, through a row of the work
-//     buffer.
+//  3. for R = 2C the two squares P (rows 0..C-1) and Q (rows C..2C-1) are
+//     done band by band together, and the transposed tiles of P go to the
+//     even rows of the destination, those of Q to the odd rows: row j of
+//     the result (2C values) is [P^T row j, Q^T row j]. Band a still
+//     writes column band a only, so the moves of step 2, done within each
+//     square, keep every untransformed tile readable.
 // The inverse transform is the forward one with the real and imaginary
 // parts exchanged on the way in (step 1) and out (the last pass of each
 // row transform), as in the medium tier.
@@ -104,13 +103,14 @@ inline Qsp64s largeTableBytes(int order)
 }
 
 // Work values: the column phase needs two buffers of R x B values and the
-// R batch-start factors; the row phase a band of t rows and a row of work.
+// R batch-start factors; the row phase a band of t rows of each of the R / C
+// squares and a row of work.
 template <class T>
 inline Qsp64s largeWorkValues(int order)
 {
     const LargeShape sh = largeShape(order);
     const Qsp64s r = Qsp64s(1) << sh.rowsOrder, c = Qsp64s(1) << sh.colsOrder;
-    const Qsp64s columns = 2 * r * largeBatch<T>(order) + r, rows = (kLargeBand<T> + 1) * c;
+    const Qsp64s columns = 2 * r * largeBatch<T>(order) + r, rows = ((r / c) * kLargeBand<T> + 1) * c;
     return columns > rows ? columns : rows;
 }
 
@@ -319,10 +319,10 @@ void ownsLargeColumns(Src src, Mem mem, C<T>* work, const LargeTables<T>& t, int
 // ---------------------------------------------------------------- rows
 
 // Writes the t x t tile of band (rows i < t of `band`, columns c0..c0+t-1,
-// rows of length side) transposed to mem: element (c0 + j) side + a0 + i of
-// the square at `base` receives band[i][c0 + j].
+// rows of length side) transposed to mem: element base + (c0 + j) stride +
+// a0 + i receives band[i][c0 + j].
 template <class T, class Mem>
-void ownsTileTransposed(Mem mem, Qsp64s base, Qsp64s side, const C<T>* band, Qsp64s c0, Qsp64s a0)
+void ownsTileTransposed(Mem mem, Qsp64s base, Qsp64s stride, const C<T>* band, Qsp64s side, Qsp64s c0, Qsp64s a0)
 {
     constexpr Qsp64s t = kLargeBand<T>;
     alignas(16) C<T> tile[t][t];
@@ -340,70 +340,54 @@ void ownsTileTransposed(Mem mem, Qsp64s base, Qsp64s side, const C<T>* band, Qsp
         for (Qsp64s i = 0; i < t; ++i)
             for (Qsp64s j = 0; j < t; ++j) K::store(&tile[j][i], K::load(band + i * side + c0 + j));
     }
-    for (Qsp64s j = 0; j < t; ++j) mem.write(base + (c0 + j) * side + a0, tile[j], t);
+    for (Qsp64s j = 0; j < t; ++j) mem.write(base + (c0 + j) * stride + a0, tile[j], t);
 }
 
-// Step 2 on one square of side C at element `base` of mem: row transforms
-// and transposition, band by band. work holds (t + 1) C values.
+// Steps 2 and 3: row transforms and transposition, band by band, for the
+// H squares of side C (H = R / C, 1 or 2) at once. Band a is rows a0..a0+t-1
+// of every square; work holds (H t + 1) C values.
+//
+// Square h's result Z_h is wanted transposed and, for H = 2, its rows
+// interleaved with the other square's: row k2 of Z_h^T goes to row H k2 + h
+// of the destination (rows of C values), so that row k2 of the result, 2C
+// values long, is [Z_0^T row k2, Z_1^T row k2]. Band a therefore writes the
+// tiles of column band a, every row band, and nothing else; tile (c, a) of
+// a square holds, when c > a, data of its band c not yet transformed, which
+// is first moved, as it is, to tile (a, c) of the same square, whose data
+// band a has already taken. Band a finds its data for column bands c < a in
+// tile (c, a) of its square, moved there by band c. No pass over the whole
+// array is needed besides the bands themselves.
 template <class T, bool Swap, class Mem>
-void ownsLargeRows(Mem mem, Qsp64s base, C<T>* work, const LargeTables<T>& t, int colsOrder, bool scaled, T f)
+void ownsLargeRows(Mem mem, C<T>* work, const LargeTables<T>& t, int rowsOrder, int colsOrder, bool scaled, T f)
 {
     constexpr Qsp64s tb = kLargeBand<T>;
-    const Qsp64s side = Qsp64s(1) << colsOrder, bands = side / tb;
+    const Qsp64s side = Qsp64s(1) << colsOrder, bands = side / tb, squares = Qsp64s(1) << (rowsOrder - colsOrder);
     C<T>* const band = work;
-    C<T>* const rowWork = work + tb * side;
-    auto rowAt = [&](Qsp64s row, Qsp64s col) { return base + row * side + col; };
+    C<T>* const rowWork = work + squares * tb * side;
+    auto rowAt = [&](Qsp64s h, Qsp64s row, Qsp64s col) { return (h * side + row) * side + col; };
     for (Qsp64s a = 0; a < bands; ++a) {
         const Qsp64s a0 = a * tb;
-        // Band a's data: column band c < a was moved to tile (c, a).
-        for (Qsp64s i = 0; i < tb; ++i)
-            for (Qsp64s cb = 0; cb < bands; ++cb) {
-                const Qsp64s c0 = cb * tb;
-                const Qsp64s from = cb < a ? rowAt(c0 + i, a0) : rowAt(a0 + i, c0);
-                mem.read(from, band + i * side + c0, tb);
-            }
-        for (Qsp64s i = 0; i < tb; ++i) {
+        for (Qsp64s h = 0; h < squares; ++h)
+            for (Qsp64s i = 0; i < tb; ++i)
+                for (Qsp64s cb = 0; cb < bands; ++cb) {
+                    const Qsp64s c0 = cb * tb;
+                    const Qsp64s from = cb < a ? rowAt(h, c0 + i, a0) : rowAt(h, a0 + i, c0);
+                    mem.read(from, band + (h * tb + i) * side + c0, tb);
+                }
+        for (Qsp64s i = 0; i < squares * tb; ++i) {
             C<T>* row = band + i * side;
             ownsFftMediumRun<T>(InterleavedIn<T, false>{row}, halvesOf(row, side), InterleavedOut<T, Swap>{row}, true,
                                 halvesOf(rowWork, side), colsOrder, t.rows, scaled, f);
         }
-        for (Qsp64s cb = 0; cb < bands; ++cb) {
-            const Qsp64s c0 = cb * tb;
-            if (cb > a)
-                for (Qsp64s i = 0; i < tb; ++i) mem.move(rowAt(a0 + i, c0), rowAt(c0 + i, a0), tb);
-            ownsTileTransposed<T>(mem, base, side, band, c0, a0);
-        }
-    }
-}
-
-// Step 3 for R = 2C: rows of C values, row i to 2i mod (2C - 1).
-template <class T, class Mem>
-void ownsLargeInterleaveHalves(Mem mem, C<T>* work, int colsOrder)
-{
-    const Qsp64s side = Qsp64s(1) << colsOrder, rows = 2 * side, mod = rows - 1;
-    const int bits = colsOrder + 1;
-    // The map is a left rotation of bits-bit numbers; a cycle starts at its
-    // smallest member.
-    auto rotl = [&](Qsp64s v) { return ((v << 1) | (v >> (bits - 1))) & mod; };
-    for (Qsp64s lead = 1; lead < mod; ++lead) {
-        bool smallest = true;
-        for (Qsp64s v = rotl(lead); v != lead; v = rotl(v))
-            if (v < lead) {
-                smallest = false;
-                break;
-            }
-        if (!smallest || rotl(lead) == lead) continue;
-        // Row `lead` is saved; every row of the cycle then takes the row
-        // that goes there (from = to * C mod (2C - 1), the inverse rotation).
-        mem.read(lead * side, work, side);
-        Qsp64s to = lead;
-        for (;;) {
-            const Qsp64s from = (to * side) % mod;
-            if (from == lead) break;
-            mem.move(to * side, from * side, side);
-            to = from;
-        }
-        mem.write(to * side, work, side);
+        // With two squares, the tiles of column band c land in row bands 2c
+        // and 2c + 1, so every move is done before the first of them.
+        for (Qsp64s cb = a + 1; cb < bands; ++cb)
+            for (Qsp64s h = 0; h < squares; ++h)
+                for (Qsp64s i = 0; i < tb; ++i)
+                    mem.move(rowAt(h, a0 + i, cb * tb), rowAt(h, cb * tb + i, a0), tb);
+        for (Qsp64s cb = 0; cb < bands; ++cb)
+            for (Qsp64s h = 0; h < squares; ++h)
+                ownsTileTransposed<T>(mem, h * side, squares * side, band + h * tb * side, side, cb * tb, a0);
     }
 }
 
@@ -414,12 +398,7 @@ void ownsFftLargeRun(Src src, Mem mem, C<T>* work, const LargeTables<T>& t, int 
 {
     const LargeShape sh = largeShape(order);
     ownsLargeColumns<T>(src, mem, work, t, order);
-    const Qsp64s side = Qsp64s(1) << sh.colsOrder;
-    ownsLargeRows<T, Swap>(mem, 0, work, t, sh.colsOrder, scaled, f);
-    if (sh.rowsOrder != sh.colsOrder) {
-        ownsLargeRows<T, Swap>(mem, side * side, work, t, sh.colsOrder, scaled, f);
-        ownsLargeInterleaveHalves<T>(mem, work, sh.colsOrder);
-    }
+    ownsLargeRows<T, Swap>(mem, work, t, sh.rowsOrder, sh.colsOrder, scaled, f);
 }
 
 }  // namespace fft
