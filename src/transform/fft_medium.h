@@ -181,12 +181,14 @@ inline typename SV<T>::X plusIb(typename SV<T>::X a, typename SV<T>::X b)
 }
 
 // The forward 4- and 8-point DFTs of in(0..R-1), out(k, v) receiving output
-// k. The 8-point one is a radix-2 step, the odd half turned by W_8^j, and
+// k; both are always inlined, so that in and out fold into the caller's
+// loop (left to itself the compiler calls the scaled 8-point variants). The
+// 8-point one is a radix-2 step, the odd half turned by W_8^j, and
 // two 4-point DFTs; it starts with the odd inputs, whose chain through the
 // eighth turns is the longest, and hands each output over as soon as it is
 // complete, so that few values are live at once.
 template <class T, class In, class Out>
-inline void dft4(In in, Out out)
+inline __attribute__((always_inline)) void dft4(In in, Out out)
 {
     using K = SV<T>;
     const auto a = in(0), c = in(2);
@@ -200,7 +202,7 @@ inline void dft4(In in, Out out)
 }
 
 template <class T, class In, class Out>
-inline void dft8(In in, Out out)
+inline __attribute__((always_inline)) void dft8(In in, Out out)
 {
     using K = SV<T>;
     using V = typename K::V;
