@@ -181,12 +181,14 @@ inline typename SV<T>::X plusIb(typename SV<T>::X a, typename SV<T>::X b)
 }
 
 // The forward 4- and 8-point DFTs of in(0..R-1), out(k, v) receiving output
-// k. The 8-point one is a radix-2 step, the odd half turned by W_8^j, and
+// k; both are always inlined, so that in and out fold into the caller's
+// loop (left to itself the compiler calls the scaled 8-point variants). The
+// 8-point one is a radix-2 step, the odd half turned by W_8^j, and
 // two 4-point DFTs; it starts with the odd inputs, whose chain through the
 // eighth turns is the longest, and hands each output over as soon as it is
 // complete, so that few values are live at once.
 template <class T, class In, class Out>
-inline void dft4(In in, Out out)
+inline __attribute__((always_inline)) void dft4(In in, Out out)
 {
     using K = SV<T>;
     const auto a = in(0), c = in(2);
@@ -200,7 +202,7 @@ inline void dft4(In in, Out out)
 }
 
 template <class T, class In, class Out>
-inline void dft8(In in, Out out)
+inline __attribute__((always_inline)) void dft8(In in, Out out)
 {
     using K = SV<T>;
     using V = typename K::V;
@@ -353,8 +355,15 @@ void ownsMediumPass(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, Qsp64s sub, 
     using X = typename K::X;
     const Qsp64s m = sub >> 2, quarter = n >> 2, half = n >> 1;
     auto splat = [](C<T> w) { return X{V::splat(w.re), V::splat(w.im)}; };
-    for (Qsp64s p = 0; p < m; ++p, tw += 3) {
-        const X w1 = splat(tw[0]), w2 = splat(tw[1]), w3 = splat(tw[2]);
+    // The butterflies of p: with Twiddled false (p = 0, every factor 1)
+    // the outputs are stored as they are.
+    auto row = [&]<bool Twiddled>(Qsp64s p, const C<T>* f) {
+        X w1{}, w2{}, w3{};
+        if constexpr (Twiddled) {
+            w1 = splat(f[0]);
+            w2 = splat(f[1]);
+            w3 = splat(f[2]);
+        }
         const C<T>* a = x.lo + s * p;
         const C<T>* b = a + quarter;
         const C<T>* c = x.hi + s * p;
@@ -364,12 +373,19 @@ void ownsMediumPass(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, Qsp64s sub, 
             X o[4];
             butterfly4<T, false>(K::template load<false>(a + q), K::template load<false>(b + q),
                                K::template load<false>(c + q), K::template load<false>(d + q), o);
+            if constexpr (Twiddled) {
+                o[1] = K::template mul<false>(o[1], w1);
+                o[2] = K::template mul<false>(o[2], w2);
+                o[3] = K::template mul<false>(o[3], w3);
+            }
             K::template store<false>(out + q, o[0]);
-            K::template store<false>(out + s + q, K::template mul<false>(o[1], w1));
-            K::template store<false>(out + 2 * s + q, K::template mul<false>(o[2], w2));
-            K::template store<false>(out + 3 * s + q, K::template mul<false>(o[3], w3));
+            K::template store<false>(out + s + q, o[1]);
+            K::template store<false>(out + 2 * s + q, o[2]);
+            K::template store<false>(out + 3 * s + q, o[3]);
         }
-    }
+    };
+    row.template operator()<false>(0, tw);
+    for (Qsp64s p = 1; p < m; ++p) row.template operator()<true>(p, tw + 3 * p);
 }
 
 // The last pass, radix 4 (Bits 2) or 8 (Bits 3), stride N/4 or N/8, no
