@@ -60,6 +60,14 @@ struct SmallOps {
     static Value add(Value a, Value b) { return {a.re + b.re, a.im + b.im}; }
     static Value sub(Value a, Value b) { return {a.re - b.re, a.im - b.im}; }
     static Value scale(Value v, T f) { return {v.re * f, v.im * f}; }
+    static Value zero() { return {T(0), T(0)}; }
+    static Value conj(Value v) { return {v.re, -v.im}; }
+    // (im, re), and the real parts of two values, (a.re, b.re).
+    static Value swap(Value v) { return {v.im, v.re}; }
+    static Value realParts(Value a, Value b) { return {a.re, b.re}; }
+    // The real part alone, and a value at any element address.
+    static void storeRe(T* p, Value v) { *p = v.re; }
+    static void storeAt(T* p, Value v) { p[0] = v.re, p[1] = v.im; }
     // -i*v forward, +i*v inverse.
     template <bool Inv>
     static Value rot(Value v) { return Inv ? Value{-v.im, v.re} : Value{v.im, -v.re}; }
@@ -81,6 +89,12 @@ struct SmallRegOps {
     static Value add(Value a, Value b) { return {V::add(a.v, b.v)}; }
     static Value sub(Value a, Value b) { return {V::sub(a.v, b.v)}; }
     static Value scale(Value v, T f) { return {V::mul(v.v, V::splat(f))}; }
+    static Value zero() { return {V::zero()}; }
+    static Value conj(Value v) { return {V::negOdd(v.v)}; }
+    static Value swap(Value v) { return {V::swapParts(v.v)}; }
+    static Value realParts(Value a, Value b) { return {V::lowHalves(a.v, b.v)}; }
+    static void storeRe(T* p, Value v) { V::storeFirst(p, v.v); }
+    static void storeAt(T* p, Value v) { V::storeu(p, v.v); }
     template <bool Inv>
     static Value rot(Value v)
     {
@@ -198,18 +212,18 @@ inline void smallDft(In in, Out out)
     }
 }
 
-// Single precision, N = 2^Order >= 8 points from src as register pairs:
-// put(k, v) receives X[k], X[k+1] for every even k < N, unscaled. Every
-// input is read before the first put.
-template <bool Inv, int Order, class Put>
-inline void ownsFftPairs(const C<float>* src, Put put)
+// Single precision, N = 2^Order >= 8 points as register pairs: in(p) gives
+// x[2p], x[2p+1] (p < N/2), and put(k, v) receives X[k], X[k+1] for every
+// even k < N, unscaled. Every input is read before the first put.
+template <bool Inv, int Order, class In, class Put>
+inline void ownsFftPairsOf(In in, Put put)
 {
     using O = SmallOpsPair;
     using Val = O::Value;
     using V = simd::Vec<float>;
     constexpr int n = 1 << Order, m = n / 2;
     Val y[m];
-    smallDft<O, float, Inv, m>([&](int p) { return O::load(src + 2 * p); }, [&](int k, Val v) { y[k] = v; });
+    smallDft<O, float, Inv, m>([&](int p) { return Val{in(p)}; }, [&](int k, Val v) { y[k] = v; });
 #pragma GCC unroll 16
     for (int k = 0; k < m; k += 2) {
         // (shufps rather than movlhps/movhlps: it issues on two ports, not one)
@@ -224,6 +238,13 @@ inline void ownsFftPairs(const C<float>* src, Put put)
         put(k, V::add(a, wb));
         put(k + m, V::sub(a, wb));
     }
+}
+
+// The same with the N points loaded from src.
+template <bool Inv, int Order, class Put>
+inline void ownsFftPairs(const C<float>* src, Put put)
+{
+    ownsFftPairsOf<Inv, Order>([&](int p) { return SmallOpsPair::load(src + 2 * p).v; }, put);
 }
 
 // Everything called here is inlined (flatten), so that every kernel is one

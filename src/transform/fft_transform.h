@@ -367,27 +367,55 @@ void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
 
 // The real forward transforms of orders 0..5, one straight-line function
 // per order, layout and scaling: the half-length complex kernel (scaling as
-// it stores), the recombination with built-in twiddles and the layout.
+// it stores) into values of SmallOps, the recombination on those values with
+// built-in twiddles, and every bin stored once, as one value, where the
+// layout puts it. In CCS and Perm layout bin k is stored where the
+// half-length transform loads value k, so that a transform in place of the
+// previous one's result reads whole stores back.
 template <class T, Packed Layout, int Order, bool Scaled>
 __attribute__((flatten)) QspStatus ownsRealSmallForward(const T* src, T* dst, T f)
 {
-    constexpr Qsp64s n = Qsp64s(1) << Order;
     if constexpr (Order == 0) {
         dst[0] = Scaled ? src[0] * f : src[0];
+        if constexpr (Layout == Packed::Ccs) dst[1] = T(0);
     } else {
-        ownsFftSmall<T, false, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), f);
-        ownsRecombineForward<T, Order>(nullptr, dst, Order);
-    }
-    if constexpr (Layout == Packed::Pack && n >= 4) {
-        const T nyquist = dst[1];
-        for (Qsp64s i = 1; i < n - 1; ++i) dst[i] = dst[i + 1];
-        dst[n - 1] = nyquist;
-    } else if constexpr (Layout == Packed::Ccs) {
-        if constexpr (n >= 2) {
-            dst[n] = dst[1];
-            dst[n + 1] = T(0);
+        using O = SmallOps<T>;
+        using Val = typename O::Value;
+        constexpr int n = 1 << Order, half = n / 2, quarter = n / 4;
+        Val z[half], x[half + 1];
+        smallDft<O, T, false, half>([&](int p) { return O::load(reinterpret_cast<const C<T>*>(src) + p); },
+                                    [&](int k, Val v) { z[k] = Scaled ? O::scale(v, f) : v; });
+        // Z[0] = (a, b): R0 = a + b, R(N/2) = a - b.
+        const Val sum = O::add(z[0], O::swap(z[0])), dif = O::sub(z[0], O::swap(z[0]));
+        x[0] = O::realParts(sum, O::zero());
+        x[half] = O::realParts(dif, O::zero());
+        // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm) with v_k = -i W_N^k / 2;
+        // Xk = E + F, Xm = conj(E - F), m = N/2 - k.
+#pragma GCC unroll 16
+        for (int k = 1; k < quarter; ++k) {
+            const Val a = z[k], b = O::conj(z[half - k]);
+            const Val e = O::scale(O::add(a, b), T(0.5));
+            const C<T> w = kSmallW<T>.w[k << (kSmallMax - Order)];
+            const Val fv = O::template mulConst<false>(O::sub(a, b), C<T>{w.im / 2, -w.re / 2});
+            x[k] = O::add(e, fv);
+            x[half - k] = O::conj(O::sub(e, fv));
         }
-        dst[1] = T(0);
+        if constexpr (quarter > 0) x[quarter] = O::conj(z[quarter]);
+        C<T>* out = reinterpret_cast<C<T>*>(dst);
+        if constexpr (Layout == Packed::Ccs) {
+#pragma GCC unroll 32
+            for (int k = 0; k <= half; ++k) O::store(out + k, x[k]);
+        } else if constexpr (Layout == Packed::Perm || n == 2) {
+            O::store(out, O::realParts(sum, dif));
+#pragma GCC unroll 32
+            for (int k = 1; k < half; ++k) O::store(out + k, x[k]);
+        } else {
+            // Pack: R0, then bin k at element 2k - 1, then R(N/2).
+            O::storeRe(dst, sum);
+#pragma GCC unroll 32
+            for (int k = 1; k < half; ++k) O::storeAt(dst + 2 * k - 1, x[k]);
+            O::storeRe(dst + n - 1, dif);
+        }
     }
     return qspStsOk;
 }
@@ -405,14 +433,14 @@ __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, f
     ownsFftPairs<false, Order - 1>(reinterpret_cast<const C<float>*>(src),
                                    [&](int k, __m128 v) { z[k / 2] = Scaled ? V::mul(v, V::splat(f)) : v; });
     z[half / 2] = z[0];  // Z[N/2] = Z[0]
-    alignas(16) float buf[Layout == Packed::Ccs ? 1 : n + 2];
-    float* out = Layout == Packed::Ccs ? dst : buf;
+    constexpr int quarter = half / 2;
     const __m128 conj = V::negOdd(V::zero()), halfSplat = V::splat(0.5f);
+    __m128 lo[quarter / 2], mirror[quarter / 2];
 #pragma GCC unroll 8
-    for (int k = 0; k < half / 2; k += 2) {
+    for (int k = 0; k < quarter; k += 2) {
         const __m128 a = z[k / 2];  // Z[k], Z[k+1]
         // Z[N/2-k], Z[N/2-k-1]
-        const __m128 b = _mm_shuffle_ps(z[(half - k) / 2], z[(half - k) / 2 - 1], _MM_SHUFFLE(3, 2, 1, 0));
+        const __m128 b = V::joinHalves(z[(half - k) / 2], z[(half - k) / 2 - 1]);
         const __m128 cb = V::bitXor(b, conj);
         // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm) with v_k = -i W_N^k / 2
         const __m128 e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
@@ -421,26 +449,41 @@ __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, f
         const __m128 vr = _mm_setr_ps(w0.im / 2, w0.im / 2, w1.im / 2, w1.im / 2);
         const __m128 vi = _mm_setr_ps(-w0.re / 2, -w0.re / 2, -w1.re / 2, -w1.re / 2);
         const __m128 fv = V::addsub(V::mul(d, vr), V::mul(V::swapParts(d), vi));
-        // X[k], X[k+1] = E + F; X[N/2-k], X[N/2-k-1] = conj(E - F)
-        V::storeu(out + 2 * k, V::add(e, fv));
-        const __m128 m = V::bitXor(V::sub(e, fv), conj);
-        V::storeu(out + 2 * (half - k - 1), _mm_shuffle_ps(m, m, _MM_SHUFFLE(1, 0, 3, 2)));
+        // X[k], X[k+1] = E + F; X[N/2-k], X[N/2-k-1] = conj(E - F). At k = 0
+        // these are (a + b, 0) and (a - b, -0) for Z[0] = (a, b).
+        lo[k / 2] = V::add(e, fv);
+        mirror[k / 2] = V::bitXor(V::sub(e, fv), conj);
     }
-    // X[N/4] = conj Z[N/4]; bins 0 and N/2 from Z[0] = (a, b): a + b and a - b.
-    _mm_storel_pi(reinterpret_cast<__m64*>(out + half), V::bitXor(z[half / 4], conj));
-    const float a = _mm_cvtss_f32(z[0]), b = _mm_cvtss_f32(_mm_shuffle_ps(z[0], z[0], 1));
-    out[0] = a + b;
-    out[1] = 0.0f;
-    out[n] = a - b;
-    out[n + 1] = 0.0f;
-    if constexpr (Layout == Packed::Perm) {
-        dst[0] = out[0];
-        dst[1] = out[n];
-        for (int i = 2; i < n; ++i) dst[i] = out[i];
-    } else if constexpr (Layout == Packed::Pack) {
-        dst[0] = out[0];
-        for (int i = 1; i < n - 1; ++i) dst[i] = out[i + 1];
-        dst[n - 1] = out[n];
+    // The bins as aligned pairs p[j] = X[2j], X[2j+1], so that every store
+    // covers what the half-length transform loads as one value: the pairs
+    // below N/4, X[N/4] = conj Z[N/4] with X[N/4+1], the mirrored pairs
+    // regrouped, and X[N/2] with its imaginary part zero.
+    __m128 p[quarter + 1];
+#pragma GCC unroll 8
+    for (int j = 0; j < quarter / 2; ++j) p[j] = lo[j];
+    p[quarter / 2] = V::joinHalves(V::bitXor(z[quarter / 2], conj), mirror[quarter / 2 - 1]);
+#pragma GCC unroll 8
+    for (int j = quarter / 2 + 1; j < quarter; ++j) {
+        const int k = half - 2 * j;
+        p[j] = V::joinHalves(mirror[k / 2], mirror[k / 2 - 1]);
+    }
+    p[quarter] = V::zipLo(mirror[0], V::zero());
+    if constexpr (Layout == Packed::Ccs) {
+#pragma GCC unroll 8
+        for (int j = 0; j < quarter; ++j) V::storeu(dst + 4 * j, p[j]);
+        V::storeLowHalf(dst + n, p[quarter]);
+    } else if constexpr (Layout == Packed::Perm) {
+        // R0, R(N/2), then bins 1.. in place.
+        V::storeu(dst, V::joinHalves(V::zipLo(p[0], p[quarter]), p[0]));
+#pragma GCC unroll 8
+        for (int j = 1; j < quarter; ++j) V::storeu(dst + 4 * j, p[j]);
+    } else {
+        // R0, bin 1 at elements 1, 2, pair j from element 4j - 1, R(N/2) last.
+        V::storeFirst(dst, p[0]);
+        V::storeHighHalf(dst + 1, p[0]);
+#pragma GCC unroll 8
+        for (int j = 1; j < quarter; ++j) V::storeu(dst + 4 * j - 1, p[j]);
+        V::storeFirst(dst + n - 1, p[quarter]);
     }
     return qspStsOk;
 }
@@ -488,15 +531,74 @@ __attribute__((flatten)) QspStatus ownsRealSmallInverse(const T* src, T* dst, T 
     return qspStsOk;
 }
 
+// Real single precision inverse, orders 4 and 5: the spectrum loaded as
+// pairs p[j] = X[2j], X[2j+1] (bins 0 and N/2, whose pair lanes are not
+// read, are taken as scalars), recombined in registers into the pairs of
+// 2Z, and the half-length inverse transform run on those registers, storing
+// pairs where the forward transform loads them.
+template <Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallInversePairs(const float* src, float* dst, float f)
+{
+    using V = simd::Vec<float>;
+    constexpr int n = 1 << Order, half = n / 2, quarter = half / 2;
+    const float r0 = src[0], rh = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
+    __m128 p[quarter + 1];
+    // Pack holds bin k at element 2k - 1; the others at 2k.
+    p[0] = Layout == Packed::Pack ? V::loadPairDup(src + 1) : V::loadu(src);
+#pragma GCC unroll 8
+    for (int j = 1; j < quarter; ++j) p[j] = V::loadu(src + 4 * j - (Layout == Packed::Pack ? 1 : 0));
+    p[quarter] = p[0];  // only the lanes of bin N/2, which are not used
+    const __m128 conj = V::negOdd(V::zero());
+    __m128 zk[quarter / 2], zm[quarter / 2];
+#pragma GCC unroll 8
+    for (int k = 0; k < quarter; k += 2) {
+        const __m128 a = p[k / 2];  // X[k], X[k+1]
+        // X[N/2-k], X[N/2-k-1]
+        const __m128 cb = V::bitXor(V::joinHalves(p[(half - k) / 2], p[(half - k) / 2 - 1]), conj);
+        // E = Xk + conj Xm, O = (Xk - conj Xm) conj(W_N^k); Zk = E + i O, Zm = conj(E - i O)
+        const __m128 e = V::add(a, cb), d = V::sub(a, cb);
+        const C<float> w0 = kSmallW<float>.w[k << (kSmallMax - Order)];
+        const C<float> w1 = kSmallW<float>.w[(k + 1) << (kSmallMax - Order)];
+        const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
+        const __m128 wi = _mm_setr_ps(-w0.im, -w0.im, -w1.im, -w1.im);
+        const __m128 io = V::negEven(V::swapParts(V::addsub(V::mul(d, wr), V::mul(V::swapParts(d), wi))));
+        zk[k / 2] = V::add(e, io);
+        zm[k / 2] = V::bitXor(V::sub(e, io), conj);
+    }
+    // The pairs of 2Z: Z[0] = (r0 + rh, r0 - rh), the pairs below N/4,
+    // Z[N/4] = 2 conj X[N/4] with Z[N/4+1], and the mirrored pairs regrouped.
+    __m128 q[quarter];
+    q[0] = V::joinHalves(_mm_setr_ps(r0 + rh, r0 - rh, 0.0f, 0.0f), zk[0]);
+#pragma GCC unroll 8
+    for (int j = 1; j < quarter / 2; ++j) q[j] = zk[j];
+    q[quarter / 2] = V::joinHalves(V::mul(V::bitXor(p[quarter / 2], conj), V::splat(2.0f)), zm[quarter / 2 - 1]);
+#pragma GCC unroll 8
+    for (int j = quarter / 2 + 1; j < quarter; ++j) {
+        const int k = half - 2 * j;
+        q[j] = V::joinHalves(zm[k / 2], zm[k / 2 - 1]);
+    }
+    ownsFftPairsOf<true, Order - 1>([&](int j) { return q[j]; }, [&](int k, __m128 v) {
+        V::storeu(dst + 2 * k, Scaled ? V::mul(v, V::splat(f)) : v);
+    });
+    return qspStsOk;
+}
+
+template <class T, Packed Layout, int Order, bool Scaled>
+inline constexpr RealSmallKernel<T> kRealSmallInverseOne = ownsRealSmallInverse<T, Layout, Order, Scaled>;
+template <Packed Layout, int Order, bool Scaled>
+    requires(Order >= 4)
+inline constexpr RealSmallKernel<float> kRealSmallInverseOne<float, Layout, Order, Scaled> =
+    ownsRealSmallInversePairs<Layout, Order, Scaled>;
+
 // At 2 * order + scaled.
 template <class T, Packed Layout>
 inline constexpr RealSmallKernel<T> kRealSmallInverse[12] = {
-    ownsRealSmallInverse<T, Layout, 0, false>, ownsRealSmallInverse<T, Layout, 0, true>,
-    ownsRealSmallInverse<T, Layout, 1, false>, ownsRealSmallInverse<T, Layout, 1, true>,
-    ownsRealSmallInverse<T, Layout, 2, false>, ownsRealSmallInverse<T, Layout, 2, true>,
-    ownsRealSmallInverse<T, Layout, 3, false>, ownsRealSmallInverse<T, Layout, 3, true>,
-    ownsRealSmallInverse<T, Layout, 4, false>, ownsRealSmallInverse<T, Layout, 4, true>,
-    ownsRealSmallInverse<T, Layout, 5, false>, ownsRealSmallInverse<T, Layout, 5, true>,
+    kRealSmallInverseOne<T, Layout, 0, false>, kRealSmallInverseOne<T, Layout, 0, true>,
+    kRealSmallInverseOne<T, Layout, 1, false>, kRealSmallInverseOne<T, Layout, 1, true>,
+    kRealSmallInverseOne<T, Layout, 2, false>, kRealSmallInverseOne<T, Layout, 2, true>,
+    kRealSmallInverseOne<T, Layout, 3, false>, kRealSmallInverseOne<T, Layout, 3, true>,
+    kRealSmallInverseOne<T, Layout, 4, false>, kRealSmallInverseOne<T, Layout, 4, true>,
+    kRealSmallInverseOne<T, Layout, 5, false>, kRealSmallInverseOne<T, Layout, 5, true>,
 };
 
 template <class T>
