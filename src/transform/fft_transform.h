@@ -215,8 +215,9 @@ inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 // Bins k (ascending, L at a time) and their mirrors N/2 - k (descending) in
 // registers, while both groups stay on their side of N/4; returns the first
 // bin left for the scalar loop. Only for whole tables (not coarse + fine).
+// The bins are read from src and written to z (src may equal z).
 template <class T, bool Inv>
-Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quarter)
+Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quarter)
 {
     using K = SV<T>;
     using V = typename K::V;
@@ -225,10 +226,9 @@ Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quart
     const auto halfSplat = V::splat(T(0.5));
     Qsp64s k = 1;
     for (; k + L <= quarter; k += L) {
-        C<T>* pk = z + k;
-        C<T>* pm = z + (half - k - (L - 1));
-        const X a = K::template load<true>(pk);
-        X b = K::template load<true>(pm);
+        const Qsp64s jk = k, jm = half - k - (L - 1);
+        const X a = K::template load<true>(src + jk);
+        X b = K::template load<true>(src + jm);
         b = {V::reverse(b.re), V::reverse(b.im)};
         X r, m;
         if constexpr (!Inv) {
@@ -246,8 +246,8 @@ Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quart
             r = {V::sub(e.re, o.im), V::add(e.im, o.re)};
             m = {V::add(e.re, o.im), V::sub(o.re, e.im)};
         }
-        K::template store<true>(pk, r);
-        K::template store<true>(pm, X{V::reverse(m.re), V::reverse(m.im)});
+        K::template store<true>(z + jk, r);
+        K::template store<true>(z + jm, X{V::reverse(m.re), V::reverse(m.im)});
     }
     return k;
 }
@@ -268,10 +268,11 @@ inline void recombineBinForward(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
 
 // One bin pair of the inverse: E = Xk + conj Xm, O = (Xk - conj Xm) w with
 // w = conj(W^k); Zk = E + i O, Zm = conj(E - i O) (twice the forward Z).
+// The bins are read from src and written to z (src may equal z).
 template <class T>
-inline void recombineBinInverse(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
+inline void recombineBinInverse(const C<T>* src, C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
 {
-    const C<T> xk = z[k], xm = z[half - k];
+    const C<T> xk = src[k], xm = src[half - k];
     const C<T> e{xk.re + xm.re, xk.im - xm.im};
     const C<T> dlt{xk.re - xm.re, xk.im + xm.im};
     const C<T> o{dlt.re * w.re - dlt.im * w.im, dlt.re * w.im + dlt.im * w.re};
@@ -292,27 +293,35 @@ void ownsRecombineForward(const Record* rec, T* d, int order)
     if (n < 4) return;
     Qsp64s k = 1;
     if (SmallOrder < 0 && !rec->recombSplit)
-        k = ownsRecombineVector<T, false>(z, static_cast<const C<T>*>(rec->recomb), half, quarter);
+        k = ownsRecombineVector<T, false>(z, z, static_cast<const C<T>*>(rec->recomb), half, quarter);
     for (; k < quarter; ++k) recombineBinForward(z, k, half, realTwiddle<T, false>(rec, k, order));
     z[quarter].im = -z[quarter].im;
 }
 
-// X in Perm layout (in place) to 2*Z, whose half-length inverse transform
-// is N times x.
+// X to 2*Z, whose half-length inverse transform is N times x: R0 and
+// R(N/2) given, bins 1 .. N/2 - 1 read from s (pairs at element 2k, as in
+// Perm and CCS layout) and the result written to d (s may equal d).
 template <class T, int SmallOrder = -1>
-void ownsRecombineInverse(const Record* rec, T* d, int order)
+void ownsRecombineInverseFrom(const Record* rec, const T* s, T* d, T r0, T rh, int order)
 {
     if constexpr (SmallOrder >= 0) order = SmallOrder;
     const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
+    const C<T>* x = reinterpret_cast<const C<T>*>(s);
     C<T>* z = reinterpret_cast<C<T>*>(d);
-    const T r0 = z[0].re, rh = z[0].im;
     z[0] = {r0 + rh, r0 - rh};
     if (n < 4) return;
     Qsp64s k = 1;
     if (SmallOrder < 0 && !rec->recombSplit)
-        k = ownsRecombineVector<T, true>(z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
-    for (; k < quarter; ++k) recombineBinInverse(z, k, half, realTwiddle<T, true>(rec, k, order));
-    z[quarter] = {T(2) * z[quarter].re, T(-2) * z[quarter].im};
+        k = ownsRecombineVector<T, true>(x, z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
+    for (; k < quarter; ++k) recombineBinInverse(x, z, k, half, realTwiddle<T, true>(rec, k, order));
+    z[quarter] = {T(2) * x[quarter].re, T(-2) * x[quarter].im};
+}
+
+// The same from Perm layout, in place.
+template <class T, int SmallOrder = -1>
+void ownsRecombineInverse(const Record* rec, T* d, int order)
+{
+    ownsRecombineInverseFrom<T, SmallOrder>(rec, d, d, d[0], d[1], order);
 }
 
 // The recombination by order: orders 1..5 unrolled with built-in twiddles.
@@ -610,22 +619,18 @@ void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Pa
         dst[0] = rec->inverseNormalise ? src[0] * factorOf<T>(rec) : src[0];
         return;
     }
-    // Bring the packed spectrum into Perm layout in the destination.
+    // Perm and CCS hold bins 1 .. N/2 - 1 where the recombination reads
+    // them, so it reads them from the source; Pack is first brought into
+    // Perm layout in the destination.
     if (layout == Packed::Pack) {
         const T nyquist = src[n - 1];
         for (Qsp64s i = n - 1; i >= 2; --i) dst[i] = src[i - 1];
         dst[1] = nyquist;
         dst[0] = src[0];
-    } else if (layout == Packed::Ccs) {
-        const T nyquist = src[n];
-        dst[0] = src[0];
-        if (src != dst)
-            for (Qsp64s i = 2; i < n; ++i) dst[i] = src[i];
-        dst[1] = nyquist;
-    } else if (src != dst) {
-        for (Qsp64s i = 0; i < n; ++i) dst[i] = src[i];
+        ownsRecombine<T, true>(rec, dst, order);
+    } else {
+        ownsRecombineInverseFrom<T>(rec, src, dst, src[0], layout == Packed::Ccs ? src[n] : src[1], order);
     }
-    ownsRecombine<T, true>(rec, dst, order);
     C<T>* z = reinterpret_cast<C<T>*>(dst);
     ownsComplex<T, true>(rec, z, z, work, order - 1, rec->inverseNormalise != 0, factorOf<T>(rec));
 }
