@@ -219,6 +219,32 @@ inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 template <class T, bool Inv>
 Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quarter)
 {
+    if constexpr (sizeof(T) == 8) {
+        // Double precision: one complex value per register, bin k and its
+        // mirror as loaded, the twiddle's parts splatted by the loads. This
+        // needs one shuffle per bin pair, where the split form needs six.
+        using V = simd::Vec<double>;
+        const auto halfSplat = V::splat(0.5);
+        for (Qsp64s k = 1; k < quarter; ++k) {
+            const auto a = V::loadu(&src[k].re);
+            const auto cb = V::negOdd(V::loadu(&src[half - k].re));
+            if constexpr (!Inv) {
+                // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm), Xk = E + F, Xm = conj(E - F)
+                const double* v = &table->re + forwardWholeIndex<T>(k);
+                const auto e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
+                const auto f = V::addsub(V::mul(d, V::splat(v[0])), V::mul(V::swapParts(d), V::splat(v[SV<T>::L])));
+                V::storeu(&z[k].re, V::add(e, f));
+                V::storeu(&z[half - k].re, V::negOdd(V::sub(e, f)));
+            } else {
+                // E = Xk + conj Xm, i O = (Xk - conj Xm) i w; Zk = E + i O, Zm = conj(E - i O)
+                const auto e = V::add(a, cb), d = V::sub(a, cb);
+                const auto io = V::addsub(V::mul(d, V::splat(-table[k].im)), V::mul(V::swapParts(d), V::splat(table[k].re)));
+                V::storeu(&z[k].re, V::add(e, io));
+                V::storeu(&z[half - k].re, V::negOdd(V::sub(e, io)));
+            }
+        }
+        return quarter;
+    }
     using K = SV<T>;
     using V = typename K::V;
     using X = typename K::X;
