@@ -68,6 +68,8 @@ struct SmallOps {
     // The real part alone, and a value at any element address.
     static void storeRe(T* p, Value v) { *p = v.re; }
     static void storeAt(T* p, Value v) { p[0] = v.re, p[1] = v.im; }
+    static Value loadAt(const T* p) { return {p[0], p[1]}; }
+    static Value pair(T re, T im) { return {re, im}; }
     // -i*v forward, +i*v inverse.
     template <bool Inv>
     static Value rot(Value v) { return Inv ? Value{-v.im, v.re} : Value{v.im, -v.re}; }
@@ -95,6 +97,8 @@ struct SmallRegOps {
     static Value realParts(Value a, Value b) { return {V::lowHalves(a.v, b.v)}; }
     static void storeRe(T* p, Value v) { V::storeFirst(p, v.v); }
     static void storeAt(T* p, Value v) { V::storeu(p, v.v); }
+    static Value loadAt(const T* p) { return {V::loadu(p)}; }
+    static Value pair(T re, T im) { return {V::pair(re, im)}; }
     template <bool Inv>
     static Value rot(Value v)
     {

@@ -545,23 +545,41 @@ inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
 };
 
 // The real inverse transforms of orders 0..5, one straight-line function
-// per order, layout and scaling: the packed spectrum read into a local
-// array in Perm order, the inverse recombination with built-in twiddles,
-// and the half-length complex kernel (scaling as it stores) into the
-// destination. Everything is read before the destination is written.
+// per order, layout and scaling: the packed spectrum loaded into values of
+// SmallOps, the inverse recombination on those values with built-in
+// twiddles, and the half-length complex kernel on them (scaling as it
+// stores) into the destination. Everything is read before the destination
+// is written.
 template <class T, Packed Layout, int Order, bool Scaled>
 __attribute__((flatten)) QspStatus ownsRealSmallInverse(const T* src, T* dst, T f)
 {
-    constexpr Qsp64s n = Qsp64s(1) << Order;
     if constexpr (Order == 0) {
         dst[0] = Scaled ? src[0] * f : src[0];
     } else {
-        alignas(16) T z[n];
-        z[0] = src[0];
-        z[1] = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
-        for (Qsp64s i = 2; i < n; ++i) z[i] = Layout == Packed::Pack ? src[i - 1] : src[i];
-        ownsRecombineInverse<T, Order>(nullptr, z, Order);
-        ownsFftSmall<T, true, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(z), reinterpret_cast<C<T>*>(dst), f);
+        using O = SmallOps<T>;
+        using Val = typename O::Value;
+        constexpr int n = 1 << Order, half = n / 2, quarter = n / 4;
+        const T r0 = src[0], rh = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
+        // Bin k at element 2k - 1 (Pack) or 2k (Perm, CCS).
+        Val x[half], z[half];
+#pragma GCC unroll 16
+        for (int k = 1; k < half; ++k) x[k] = O::loadAt(src + 2 * k - (Layout == Packed::Pack ? 1 : 0));
+        z[0] = O::pair(r0 + rh, r0 - rh);
+        // E = Xk + conj Xm, i O = (Xk - conj Xm) i conj(W_N^k); Zk = E + i O,
+        // Zm = conj(E - i O), m = N/2 - k (twice the forward Z).
+#pragma GCC unroll 16
+        for (int k = 1; k < quarter; ++k) {
+            const Val a = x[k], b = O::conj(x[half - k]);
+            const Val e = O::add(a, b);
+            const C<T> w = kSmallW<T>.w[k << (kSmallMax - Order)];
+            const Val io = O::template mulConst<false>(O::sub(a, b), C<T>{w.im, w.re});
+            z[k] = O::add(e, io);
+            z[half - k] = O::conj(O::sub(e, io));
+        }
+        if constexpr (quarter > 0) z[quarter] = O::scale(O::conj(x[quarter]), T(2));
+        smallDft<O, T, true, half>([&](int p) { return z[p]; }, [&](int k, Val v) {
+            O::store(reinterpret_cast<C<T>*>(dst) + k, Scaled ? O::scale(v, f) : v);
+        });
     }
     return qspStsOk;
 }
