@@ -9,8 +9,6 @@
 #include "mathfn/half.h"
 #include "qsp_validators.h"
 
-#include <type_traits>
-
 namespace fft {
 
 // ---------------------------------------------------------------- checks
@@ -199,15 +197,11 @@ inline C<T> forwardWholeTwiddle(const C<T>* table, Qsp64s k)
 }
 
 // The recombination twiddle of bin k: W_N^k (forward) or conj(W_N^k)
-// (inverse), from the record's tables or, up to order 5, the built-in ones.
+// (inverse), from the record's tables (orders above the straight-line ones).
 template <class T, bool Inv>
 inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 {
     const Qsp64s n = Qsp64s(1) << order;
-    if (order <= kSmallMax) {
-        const C<T> w = kSmallW<T>.w[k << (kSmallMax - order)];
-        return Inv ? C<T>{w.re, -w.im} : w;
-    }
     if (!Inv && !rec->recombSplit) return forwardWholeTwiddle<T>(static_cast<const C<T>*>(rec->recomb), k);
     return recombTwiddle<T>(rec, static_cast<const C<T>*>(Inv ? rec->recombInv : rec->recomb), k, n);
 }
@@ -308,17 +302,15 @@ inline void recombineBinInverse(const C<T>* src, C<T>* z, Qsp64s k, Qsp64s half,
 
 // Z (the half-length transform of x[2m] + i*x[2m+1]) to the spectrum X in
 // Perm layout, in place. Bin 0 gives R0 and R(N/2); bin N/4 is conj(Z).
-template <class T, int SmallOrder = -1>
+template <class T>
 void ownsRecombineForward(const Record* rec, T* d, int order)
 {
-    if constexpr (SmallOrder >= 0) order = SmallOrder;
     const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
     C<T>* z = reinterpret_cast<C<T>*>(d);
     const T a = z[0].re, b = z[0].im;
     z[0] = {a + b, a - b};
-    if (n < 4) return;
     Qsp64s k = 1;
-    if (SmallOrder < 0 && !rec->recombSplit)
+    if (!rec->recombSplit)
         k = ownsRecombineVector<T, false>(z, z, static_cast<const C<T>*>(rec->recomb), half, quarter);
     for (; k < quarter; ++k) recombineBinForward(z, k, half, realTwiddle<T, false>(rec, k, order));
     z[quarter].im = -z[quarter].im;
@@ -327,75 +319,38 @@ void ownsRecombineForward(const Record* rec, T* d, int order)
 // X to 2*Z, whose half-length inverse transform is N times x: R0 and
 // R(N/2) given, bins 1 .. N/2 - 1 read from s (pairs at element 2k, as in
 // Perm and CCS layout) and the result written to d (s may equal d).
-template <class T, int SmallOrder = -1>
+template <class T>
 void ownsRecombineInverseFrom(const Record* rec, const T* s, T* d, T r0, T rh, int order)
 {
-    if constexpr (SmallOrder >= 0) order = SmallOrder;
     const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
     const C<T>* x = reinterpret_cast<const C<T>*>(s);
     C<T>* z = reinterpret_cast<C<T>*>(d);
     z[0] = {r0 + rh, r0 - rh};
-    if (n < 4) return;
     Qsp64s k = 1;
-    if (SmallOrder < 0 && !rec->recombSplit)
+    if (!rec->recombSplit)
         k = ownsRecombineVector<T, true>(x, z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
     for (; k < quarter; ++k) recombineBinInverse(x, z, k, half, realTwiddle<T, true>(rec, k, order));
     z[quarter] = {T(2) * x[quarter].re, T(-2) * x[quarter].im};
 }
 
-// The same from Perm layout, in place.
-template <class T, int SmallOrder = -1>
-void ownsRecombineInverse(const Record* rec, T* d, int order)
-{
-    ownsRecombineInverseFrom<T, SmallOrder>(rec, d, d, d[0], d[1], order);
-}
-
-// The recombination by order: orders 1..5 unrolled with built-in twiddles.
-template <class T, bool Inv>
-void ownsRecombine(const Record* rec, T* d, int order)
-{
-    auto pick = [&](auto smallOrder) {
-        constexpr int o = decltype(smallOrder)::value;
-        if constexpr (Inv)
-            ownsRecombineInverse<T, o>(rec, d, o);
-        else
-            ownsRecombineForward<T, o>(rec, d, o);
-    };
-    switch (order) {
-    case 1: pick(std::integral_constant<int, 1>{}); return;
-    case 2: pick(std::integral_constant<int, 2>{}); return;
-    case 3: pick(std::integral_constant<int, 3>{}); return;
-    case 4: pick(std::integral_constant<int, 4>{}); return;
-    case 5: pick(std::integral_constant<int, 5>{}); return;
-    default:
-        if constexpr (Inv)
-            ownsRecombineInverse<T>(rec, d, order);
-        else
-            ownsRecombineForward<T>(rec, d, order);
-    }
-}
-
+// The real forward transform above the straight-line orders: the
+// half-length complex transform into the destination, the recombination
+// there (Perm layout) and the move into the layout asked for.
 template <class T>
 void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
 {
     const int order = rec->order;
     const Qsp64s n = Qsp64s(1) << order;
-    if (order == 0) {
-        dst[0] = rec->forwardNormalise ? src[0] * factorOf<T>(rec) : src[0];
-    } else {
-        ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
-                              rec->forwardNormalise != 0, factorOf<T>(rec));
-        ownsRecombine<T, false>(rec, dst, order);
-    }
-    if (layout == Packed::Pack && n >= 4) {
+    ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
+                          rec->forwardNormalise != 0, factorOf<T>(rec));
+    ownsRecombineForward<T>(rec, dst, order);
+    if (layout == Packed::Pack) {
         const T nyquist = dst[1];
         for (Qsp64s i = 1; i < n - 1; ++i) dst[i] = dst[i + 1];
         dst[n - 1] = nyquist;
     } else if (layout == Packed::Ccs) {
-        if (n >= 2) {
-            dst[n] = dst[1];
-            dst[n + 1] = T(0);
-        }
+        dst[n] = dst[1];
+        dst[n + 1] = T(0);
         dst[1] = T(0);
     }
 }
@@ -654,24 +609,21 @@ inline constexpr RealSmallKernel<T> kRealSmallInverse[12] = {
     kRealSmallInverseOne<T, Layout, 5, false>, kRealSmallInverseOne<T, Layout, 5, true>,
 };
 
+// The real inverse transform above the straight-line orders: the inverse
+// recombination into the destination, then the half-length complex
+// transform there.
 template <class T>
 void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
 {
     const int order = rec->order;
     const Qsp64s n = Qsp64s(1) << order;
-    if (order == 0) {
-        dst[0] = rec->inverseNormalise ? src[0] * factorOf<T>(rec) : src[0];
-        return;
-    }
     // Perm and CCS hold bins 1 .. N/2 - 1 where the recombination reads
-    // them, so it reads them from the source; Pack is first brought into
-    // Perm layout in the destination.
+    // them, so it reads them from the source; Pack's bins are first moved
+    // there in the destination (from the top down, so src may equal dst).
     if (layout == Packed::Pack) {
-        const T nyquist = src[n - 1];
+        const T r0 = src[0], rh = src[n - 1];
         for (Qsp64s i = n - 1; i >= 2; --i) dst[i] = src[i - 1];
-        dst[1] = nyquist;
-        dst[0] = src[0];
-        ownsRecombine<T, true>(rec, dst, order);
+        ownsRecombineInverseFrom<T>(rec, dst, dst, r0, rh, order);
     } else {
         ownsRecombineInverseFrom<T>(rec, src, dst, src[0], layout == Packed::Ccs ? src[n] : src[1], order);
     }
