@@ -216,7 +216,7 @@ inline void smallDft(In in, Out out)
     }
 }
 
-// Single precision, N = 2^Order >= 8 points as register pairs: in(p) gives
+// Single precision, N = 2^Order >= 4 points as register pairs: in(p) gives
 // x[2p], x[2p+1] (p < N/2), and put(k, v) receives X[k], X[k+1] for every
 // even k < N, unscaled. Every input is read before the first put.
 template <bool Inv, int Order, class In, class Put>
@@ -238,7 +238,13 @@ inline void ownsFftPairsOf(In in, Put put)
         const float s = Inv ? -1.0f : 1.0f;
         const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
         const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
-        const __m128 wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
+        __m128 wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
+        if constexpr (n == 4) {
+            // (1, -+i): the high value turned by a shuffle and a sign, which
+            // shortens the path from load to store.
+            const __m128 turned = _mm_shuffle_ps(b, b, _MM_SHUFFLE(2, 3, 1, 0));
+            wb = V::bitXor(turned, Inv ? _mm_setr_ps(0.0f, 0.0f, -0.0f, 0.0f) : _mm_setr_ps(0.0f, 0.0f, 0.0f, -0.0f));
+        }
         put(k, V::add(a, wb));
         put(k + m, V::sub(a, wb));
     }

@@ -410,10 +410,10 @@ __attribute__((flatten)) QspStatus ownsRealSmallForward(const T* src, T* dst, T 
     return qspStsOk;
 }
 
-// Real single precision, orders 4 and 5: the half-length transform Z stays in
+// Real single precision, orders 3 to 5: the half-length transform Z stays in
 // registers as pairs (Z[2j], Z[2j+1]) and is recombined there, bins k, k+1
-// together with their mirrors N/2-k, N/2-k-1. The spectrum is written in
-// CCS layout, to dst or, for the other layouts, to a buffer first.
+// together with their mirrors N/2-k, N/2-k-1, and the bins are stored as
+// aligned pairs in the layout asked for.
 template <Packed Layout, int Order, bool Scaled>
 __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, float* dst, float f)
 {
@@ -484,7 +484,7 @@ using RealSmallKernel = QspStatus (*)(const T*, T*, T);
 template <class T, Packed Layout, int Order, bool Scaled>
 inline constexpr RealSmallKernel<T> kRealSmallForwardOne = ownsRealSmallForward<T, Layout, Order, Scaled>;
 template <Packed Layout, int Order, bool Scaled>
-    requires(Order >= 4)
+    requires(Order >= 3)
 inline constexpr RealSmallKernel<float> kRealSmallForwardOne<float, Layout, Order, Scaled> =
     ownsRealSmallForwardPairs<Layout, Order, Scaled>;
 
@@ -539,7 +539,7 @@ __attribute__((flatten)) QspStatus ownsRealSmallInverse(const T* src, T* dst, T 
     return qspStsOk;
 }
 
-// Real single precision inverse, orders 4 and 5: the spectrum loaded as
+// Real single precision inverse, orders 3 to 5: the spectrum loaded as
 // pairs p[j] = X[2j], X[2j+1] (bins 0 and N/2, whose pair lanes are not
 // read, are taken as scalars), recombined in registers into the pairs of
 // 2Z, and the half-length inverse transform run on those registers, storing
@@ -594,7 +594,7 @@ __attribute__((flatten)) QspStatus ownsRealSmallInversePairs(const float* src, f
 template <class T, Packed Layout, int Order, bool Scaled>
 inline constexpr RealSmallKernel<T> kRealSmallInverseOne = ownsRealSmallInverse<T, Layout, Order, Scaled>;
 template <Packed Layout, int Order, bool Scaled>
-    requires(Order >= 4)
+    requires(Order >= 3)
 inline constexpr RealSmallKernel<float> kRealSmallInverseOne<float, Layout, Order, Scaled> =
     ownsRealSmallInversePairs<Layout, Order, Scaled>;
 
