@@ -13,8 +13,8 @@ namespace fft {
 // the factor as they store.
 //  - Double precision: one complex value per register; the DFT is written
 //    out on those values (smallDft).
-//  - Single precision, orders 0..2: scalar pairs, written out the same way.
-//  - Single precision, orders 3..5 (N = 2M): a register holds x[2j] and
+//  - Single precision, orders 0 and 1: scalar pairs, written out the same way.
+//  - Single precision, orders 2..5 (N = 2M): a register holds x[2j] and
 //    x[2j+1] as loaded, so the same M-point DFT run on the registers
 //    transforms the even samples in the low half and the odd samples in the
 //    high half at once. Pairs of results are then regrouped (a_k, a_k+1),
@@ -263,7 +263,7 @@ template <class T, bool Inv, int Order, bool Scaled>
 __attribute__((flatten)) void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
 {
     constexpr int n = 1 << Order;
-    if constexpr (sizeof(T) == 8 || Order <= 2) {
+    if constexpr (sizeof(T) == 8 || Order <= 1) {
         using O = SmallOps<T>;
         using Val = typename O::Value;
         smallDft<O, T, Inv, n>([&](int p) { return O::load(src + p); },
