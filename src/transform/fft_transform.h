@@ -478,26 +478,6 @@ __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, f
     return qspStsOk;
 }
 
-template <class T>
-using RealSmallKernel = QspStatus (*)(const T*, T*, T);
-
-template <class T, Packed Layout, int Order, bool Scaled>
-inline constexpr RealSmallKernel<T> kRealSmallForwardOne = ownsRealSmallForward<T, Layout, Order, Scaled>;
-template <Packed Layout, int Order, bool Scaled>
-    requires(Order >= 3)
-inline constexpr RealSmallKernel<float> kRealSmallForwardOne<float, Layout, Order, Scaled> =
-    ownsRealSmallForwardPairs<Layout, Order, Scaled>;
-
-// At 2 * order + scaled.
-template <class T, Packed Layout>
-inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
-    kRealSmallForwardOne<T, Layout, 0, false>, kRealSmallForwardOne<T, Layout, 0, true>,
-    kRealSmallForwardOne<T, Layout, 1, false>, kRealSmallForwardOne<T, Layout, 1, true>,
-    kRealSmallForwardOne<T, Layout, 2, false>, kRealSmallForwardOne<T, Layout, 2, true>,
-    kRealSmallForwardOne<T, Layout, 3, false>, kRealSmallForwardOne<T, Layout, 3, true>,
-    kRealSmallForwardOne<T, Layout, 4, false>, kRealSmallForwardOne<T, Layout, 4, true>,
-    kRealSmallForwardOne<T, Layout, 5, false>, kRealSmallForwardOne<T, Layout, 5, true>,
-};
 
 // The real inverse transforms of orders 0..5, one straight-line function
 // per order, layout and scaling: the packed spectrum loaded into values of
@@ -591,22 +571,28 @@ __attribute__((flatten)) QspStatus ownsRealSmallInversePairs(const float* src, f
     return qspStsOk;
 }
 
-template <class T, Packed Layout, int Order, bool Scaled>
-inline constexpr RealSmallKernel<T> kRealSmallInverseOne = ownsRealSmallInverse<T, Layout, Order, Scaled>;
-template <Packed Layout, int Order, bool Scaled>
+template <class T>
+using RealSmallKernel = QspStatus (*)(const T*, T*, T);
+
+// The straight-line real kernel of one direction, layout, order and
+// scaling: single precision from order 3 on register pairs.
+template <class T, Packed Layout, bool Inverse, int Order, bool Scaled>
+inline constexpr RealSmallKernel<T> kRealSmallOne =
+    Inverse ? ownsRealSmallInverse<T, Layout, Order, Scaled> : ownsRealSmallForward<T, Layout, Order, Scaled>;
+template <Packed Layout, bool Inverse, int Order, bool Scaled>
     requires(Order >= 3)
-inline constexpr RealSmallKernel<float> kRealSmallInverseOne<float, Layout, Order, Scaled> =
-    ownsRealSmallInversePairs<Layout, Order, Scaled>;
+inline constexpr RealSmallKernel<float> kRealSmallOne<float, Layout, Inverse, Order, Scaled> =
+    Inverse ? ownsRealSmallInversePairs<Layout, Order, Scaled> : ownsRealSmallForwardPairs<Layout, Order, Scaled>;
 
 // At 2 * order + scaled.
-template <class T, Packed Layout>
-inline constexpr RealSmallKernel<T> kRealSmallInverse[12] = {
-    kRealSmallInverseOne<T, Layout, 0, false>, kRealSmallInverseOne<T, Layout, 0, true>,
-    kRealSmallInverseOne<T, Layout, 1, false>, kRealSmallInverseOne<T, Layout, 1, true>,
-    kRealSmallInverseOne<T, Layout, 2, false>, kRealSmallInverseOne<T, Layout, 2, true>,
-    kRealSmallInverseOne<T, Layout, 3, false>, kRealSmallInverseOne<T, Layout, 3, true>,
-    kRealSmallInverseOne<T, Layout, 4, false>, kRealSmallInverseOne<T, Layout, 4, true>,
-    kRealSmallInverseOne<T, Layout, 5, false>, kRealSmallInverseOne<T, Layout, 5, true>,
+template <class T, Packed Layout, bool Inverse>
+inline constexpr RealSmallKernel<T> kRealSmall[12] = {
+    kRealSmallOne<T, Layout, Inverse, 0, false>, kRealSmallOne<T, Layout, Inverse, 0, true>,
+    kRealSmallOne<T, Layout, Inverse, 1, false>, kRealSmallOne<T, Layout, Inverse, 1, true>,
+    kRealSmallOne<T, Layout, Inverse, 2, false>, kRealSmallOne<T, Layout, Inverse, 2, true>,
+    kRealSmallOne<T, Layout, Inverse, 3, false>, kRealSmallOne<T, Layout, Inverse, 3, true>,
+    kRealSmallOne<T, Layout, Inverse, 4, false>, kRealSmallOne<T, Layout, Inverse, 4, true>,
+    kRealSmallOne<T, Layout, Inverse, 5, false>, kRealSmallOne<T, Layout, Inverse, 5, true>,
 };
 
 // The real inverse transform above the straight-line orders: the inverse
@@ -652,8 +638,7 @@ inline QspStatus ownsRealEntry(const void* spec, Kind kind, const T* src, T* dst
     const int order = rec->order;
     if (__builtin_expect(order <= kSmallMax, 1)) {
         const bool scaled = (Inverse ? rec->inverseNormalise : rec->forwardNormalise) != 0;
-        const RealSmallKernel<T>* kernels = Inverse ? kRealSmallInverse<T, Layout> : kRealSmallForward<T, Layout>;
-        return kernels[2 * order + int(scaled)](src, dst, factorOf<T>(rec));
+        return kRealSmall<T, Layout, Inverse>[2 * order + int(scaled)](src, dst, factorOf<T>(rec));
     }
     if (missingWork(rec, work)) return qspStsNullPtr;
     return ownsRealOutOfLine<T, Layout, Inverse>(rec, src, dst, workOf<C<T>>(rec, work));
