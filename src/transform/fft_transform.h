@@ -547,9 +547,10 @@ __attribute__((flatten)) QspStatus ownsRealSmallInversePairs(const float* src, f
         const __m128 e = V::add(a, cb), d = V::sub(a, cb);
         const C<float> w0 = kSmallW<float>.w[k << (kSmallMax - Order)];
         const C<float> w1 = kSmallW<float>.w[(k + 1) << (kSmallMax - Order)];
-        const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
-        const __m128 wi = _mm_setr_ps(-w0.im, -w0.im, -w1.im, -w1.im);
-        const __m128 io = V::negEven(V::swapParts(V::addsub(V::mul(d, wr), V::mul(V::swapParts(d), wi))));
+        // i O = (Xk - conj Xm) i conj(W), with i conj(W) = (Im W, Re W)
+        const __m128 wr = _mm_setr_ps(w0.im, w0.im, w1.im, w1.im);
+        const __m128 wi = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
+        const __m128 io = V::addsub(V::mul(d, wr), V::mul(V::swapParts(d), wi));
         zk[k / 2] = V::add(e, io);
         zm[k / 2] = V::bitXor(V::sub(e, io), conj);
     }
