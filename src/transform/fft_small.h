@@ -234,16 +234,18 @@ inline void ownsFftPairsOf(In in, Put put)
         const __m128 a = _mm_shuffle_ps(y[k].v, y[k + 1].v, _MM_SHUFFLE(1, 0, 1, 0));
         const __m128 b = _mm_shuffle_ps(y[k].v, y[k + 1].v, _MM_SHUFFLE(3, 2, 3, 2));
         // b * (W^k, W^(k+1)), conjugated for the inverse
-        const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
-        const float s = Inv ? -1.0f : 1.0f;
-        const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
-        const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
-        __m128 wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
+        __m128 wb;
         if constexpr (n == 4) {
             // (1, -+i): the high value turned by a shuffle and a sign, which
             // shortens the path from load to store.
             const __m128 turned = _mm_shuffle_ps(b, b, _MM_SHUFFLE(2, 3, 1, 0));
             wb = V::bitXor(turned, Inv ? _mm_setr_ps(0.0f, 0.0f, -0.0f, 0.0f) : _mm_setr_ps(0.0f, 0.0f, 0.0f, -0.0f));
+        } else {
+            const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
+            const float s = Inv ? -1.0f : 1.0f;
+            const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
+            const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
+            wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
         }
         put(k, V::add(a, wb));
         put(k + m, V::sub(a, wb));
