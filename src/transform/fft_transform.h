@@ -219,23 +219,38 @@ Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s h
         // needs one shuffle per bin pair, where the split form needs six.
         using V = simd::Vec<double>;
         const auto halfSplat = V::splat(0.5);
+        if constexpr (!Inv) {
+            // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm), Xk = E + F, Xm = conj(E - F);
+            // v_k for k and k + 1 (k odd) from one block of the table.
+            auto bin = [&](Qsp64s k, double vr, double vi) {
+                const auto a = V::loadu(&src[k].re);
+                const auto cb = V::negOdd(V::loadu(&src[half - k].re));
+                const auto e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
+                const auto f = V::addsub(V::mul(d, V::splat(vr)), V::mul(V::swapParts(d), V::splat(vi)));
+                V::storeu(&z[k].re, V::add(e, f));
+                V::storeu(&z[half - k].re, V::negOdd(V::sub(e, f)));
+            };
+            constexpr Qsp64s L = SV<T>::L;
+            const double* v = &table->re;
+            Qsp64s k = 1;
+            for (; k + 1 < quarter; k += 2, v += 2 * L) {
+                bin(k, v[0], v[L]);
+                bin(k + 1, v[1], v[L + 1]);
+            }
+            for (; k < quarter; ++k) {
+                const double* w = &table->re + forwardWholeIndex<T>(k);
+                bin(k, w[0], w[L]);
+            }
+            return quarter;
+        }
         for (Qsp64s k = 1; k < quarter; ++k) {
             const auto a = V::loadu(&src[k].re);
             const auto cb = V::negOdd(V::loadu(&src[half - k].re));
-            if constexpr (!Inv) {
-                // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm), Xk = E + F, Xm = conj(E - F)
-                const double* v = &table->re + forwardWholeIndex<T>(k);
-                const auto e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
-                const auto f = V::addsub(V::mul(d, V::splat(v[0])), V::mul(V::swapParts(d), V::splat(v[SV<T>::L])));
-                V::storeu(&z[k].re, V::add(e, f));
-                V::storeu(&z[half - k].re, V::negOdd(V::sub(e, f)));
-            } else {
-                // E = Xk + conj Xm, i O = (Xk - conj Xm) i w; Zk = E + i O, Zm = conj(E - i O)
-                const auto e = V::add(a, cb), d = V::sub(a, cb);
-                const auto io = V::addsub(V::mul(d, V::splat(-table[k].im)), V::mul(V::swapParts(d), V::splat(table[k].re)));
-                V::storeu(&z[k].re, V::add(e, io));
-                V::storeu(&z[half - k].re, V::negOdd(V::sub(e, io)));
-            }
+            // E = Xk + conj Xm, i O = (Xk - conj Xm) i w; Zk = E + i O, Zm = conj(E - i O)
+            const auto e = V::add(a, cb), d = V::sub(a, cb);
+            const auto io = V::addsub(V::mul(d, V::splat(-table[k].im)), V::mul(V::swapParts(d), V::splat(table[k].re)));
+            V::storeu(&z[k].re, V::add(e, io));
+            V::storeu(&z[half - k].re, V::negOdd(V::sub(e, io)));
         }
         return quarter;
     }
