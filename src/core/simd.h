@@ -230,6 +230,10 @@ struct Vec<float> {
     static Reg broadcast(Reg r) { return _mm_shuffle_ps(r, r, i * 0x55); }
     // 32-bit integer lanes as floats (exact below 2^24).
     static Reg fromInt32(__m128i a) { return _mm_cvtepi32_ps(a); }
+    // The low two lanes of a with the high two lanes of b: a0, a1, b2, b3.
+    static Reg joinHalves(Reg a, Reg b) { return _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 2, 1, 0)); }
+    // Lane 0 stored alone.
+    static void storeFirst(float* p, Reg r) { _mm_store_ss(p, r); }
 };
 
 template <>
@@ -318,6 +322,8 @@ struct Vec<double> {
     }
     // Both lanes rounded to single precision, in lanes 0 and 1.
     static __m128 narrowLow(Reg a) { return _mm_cvtpd_ps(a); }
+    // Lane 0 stored alone.
+    static void storeFirst(double* p, Reg r) { _mm_store_sd(p, r); }
 };
 
 // Scalar conversions and roots done by the processor's instructions (no

@@ -13,8 +13,8 @@ namespace fft {
 // the factor as they store.
 //  - Double precision: one complex value per register; the DFT is written
 //    out on those values (smallDft).
-//  - Single precision, orders 0..2: scalar pairs, written out the same way.
-//  - Single precision, orders 3..5 (N = 2M): a register holds x[2j] and
+//  - Single precision, orders 0 and 1: scalar pairs, written out the same way.
+//  - Single precision, orders 2..5 (N = 2M): a register holds x[2j] and
 //    x[2j+1] as loaded, so the same M-point DFT run on the registers
 //    transforms the even samples in the low half and the odd samples in the
 //    high half at once. Pairs of results are then regrouped (a_k, a_k+1),
@@ -60,6 +60,16 @@ struct SmallOps {
     static Value add(Value a, Value b) { return {a.re + b.re, a.im + b.im}; }
     static Value sub(Value a, Value b) { return {a.re - b.re, a.im - b.im}; }
     static Value scale(Value v, T f) { return {v.re * f, v.im * f}; }
+    static Value zero() { return {T(0), T(0)}; }
+    static Value conj(Value v) { return {v.re, -v.im}; }
+    // (im, re), and the real parts of two values, (a.re, b.re).
+    static Value swap(Value v) { return {v.im, v.re}; }
+    static Value realParts(Value a, Value b) { return {a.re, b.re}; }
+    // The real part alone, and a value at any element address.
+    static void storeRe(T* p, Value v) { *p = v.re; }
+    static void storeAt(T* p, Value v) { p[0] = v.re, p[1] = v.im; }
+    static Value loadAt(const T* p) { return {p[0], p[1]}; }
+    static Value pair(T re, T im) { return {re, im}; }
     // -i*v forward, +i*v inverse.
     template <bool Inv>
     static Value rot(Value v) { return Inv ? Value{-v.im, v.re} : Value{v.im, -v.re}; }
@@ -81,6 +91,14 @@ struct SmallRegOps {
     static Value add(Value a, Value b) { return {V::add(a.v, b.v)}; }
     static Value sub(Value a, Value b) { return {V::sub(a.v, b.v)}; }
     static Value scale(Value v, T f) { return {V::mul(v.v, V::splat(f))}; }
+    static Value zero() { return {V::zero()}; }
+    static Value conj(Value v) { return {V::negOdd(v.v)}; }
+    static Value swap(Value v) { return {V::swapParts(v.v)}; }
+    static Value realParts(Value a, Value b) { return {V::lowHalves(a.v, b.v)}; }
+    static void storeRe(T* p, Value v) { V::storeFirst(p, v.v); }
+    static void storeAt(T* p, Value v) { V::storeu(p, v.v); }
+    static Value loadAt(const T* p) { return {V::loadu(p)}; }
+    static Value pair(T re, T im) { return {V::pair(re, im)}; }
     template <bool Inv>
     static Value rot(Value v)
     {
@@ -198,32 +216,47 @@ inline void smallDft(In in, Out out)
     }
 }
 
-// Single precision, N = 2^Order >= 8 points from src as register pairs:
-// put(k, v) receives X[k], X[k+1] for every even k < N, unscaled. Every
-// input is read before the first put.
-template <bool Inv, int Order, class Put>
-inline void ownsFftPairs(const C<float>* src, Put put)
+// Single precision, N = 2^Order >= 4 points as register pairs: in(p) gives
+// x[2p], x[2p+1] (p < N/2), and put(k, v) receives X[k], X[k+1] for every
+// even k < N, unscaled. Every input is read before the first put.
+template <bool Inv, int Order, class In, class Put>
+inline void ownsFftPairsOf(In in, Put put)
 {
     using O = SmallOpsPair;
     using Val = O::Value;
     using V = simd::Vec<float>;
     constexpr int n = 1 << Order, m = n / 2;
     Val y[m];
-    smallDft<O, float, Inv, m>([&](int p) { return O::load(src + 2 * p); }, [&](int k, Val v) { y[k] = v; });
+    smallDft<O, float, Inv, m>([&](int p) { return Val{in(p)}; }, [&](int k, Val v) { y[k] = v; });
 #pragma GCC unroll 16
     for (int k = 0; k < m; k += 2) {
         // (shufps rather than movlhps/movhlps: it issues on two ports, not one)
         const __m128 a = _mm_shuffle_ps(y[k].v, y[k + 1].v, _MM_SHUFFLE(1, 0, 1, 0));
         const __m128 b = _mm_shuffle_ps(y[k].v, y[k + 1].v, _MM_SHUFFLE(3, 2, 3, 2));
         // b * (W^k, W^(k+1)), conjugated for the inverse
-        const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
-        const float s = Inv ? -1.0f : 1.0f;
-        const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
-        const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
-        const __m128 wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
+        __m128 wb;
+        if constexpr (n == 4) {
+            // (1, -+i): the high value turned by a shuffle and a sign, which
+            // shortens the path from load to store.
+            const __m128 turned = _mm_shuffle_ps(b, b, _MM_SHUFFLE(2, 3, 1, 0));
+            wb = V::bitXor(turned, Inv ? _mm_setr_ps(0.0f, 0.0f, -0.0f, 0.0f) : _mm_setr_ps(0.0f, 0.0f, 0.0f, -0.0f));
+        } else {
+            const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
+            const float s = Inv ? -1.0f : 1.0f;
+            const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
+            const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
+            wb = V::addsub(V::mul(b, wr), V::mul(V::swapParts(b), wi));
+        }
         put(k, V::add(a, wb));
         put(k + m, V::sub(a, wb));
     }
+}
+
+// The same with the N points loaded from src.
+template <bool Inv, int Order, class Put>
+inline void ownsFftPairs(const C<float>* src, Put put)
+{
+    ownsFftPairsOf<Inv, Order>([&](int p) { return SmallOpsPair::load(src + 2 * p).v; }, put);
 }
 
 // Everything called here is inlined (flatten), so that every kernel is one
@@ -232,7 +265,7 @@ template <class T, bool Inv, int Order, bool Scaled>
 __attribute__((flatten)) void ownsFftSmall(const C<T>* src, C<T>* dst, T f)
 {
     constexpr int n = 1 << Order;
-    if constexpr (sizeof(T) == 8 || Order <= 2) {
+    if constexpr (sizeof(T) == 8 || Order <= 1) {
         using O = SmallOps<T>;
         using Val = typename O::Value;
         smallDft<O, T, Inv, n>([&](int p) { return O::load(src + p); },

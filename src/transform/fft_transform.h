@@ -9,8 +9,6 @@
 #include "mathfn/half.h"
 #include "qsp_validators.h"
 
-#include <type_traits>
-
 namespace fft {
 
 // ---------------------------------------------------------------- checks
@@ -199,15 +197,11 @@ inline C<T> forwardWholeTwiddle(const C<T>* table, Qsp64s k)
 }
 
 // The recombination twiddle of bin k: W_N^k (forward) or conj(W_N^k)
-// (inverse), from the record's tables or, up to order 5, the built-in ones.
+// (inverse), from the record's tables (orders above the straight-line ones).
 template <class T, bool Inv>
 inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 {
     const Qsp64s n = Qsp64s(1) << order;
-    if (order <= kSmallMax) {
-        const C<T> w = kSmallW<T>.w[k << (kSmallMax - order)];
-        return Inv ? C<T>{w.re, -w.im} : w;
-    }
     if (!Inv && !rec->recombSplit) return forwardWholeTwiddle<T>(static_cast<const C<T>*>(rec->recomb), k);
     return recombTwiddle<T>(rec, static_cast<const C<T>*>(Inv ? rec->recombInv : rec->recomb), k, n);
 }
@@ -215,9 +209,51 @@ inline C<T> realTwiddle(const Record* rec, Qsp64s k, int order)
 // Bins k (ascending, L at a time) and their mirrors N/2 - k (descending) in
 // registers, while both groups stay on their side of N/4; returns the first
 // bin left for the scalar loop. Only for whole tables (not coarse + fine).
+// The bins are read from src and written to z (src may equal z).
 template <class T, bool Inv>
-Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quarter)
+Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quarter)
 {
+    if constexpr (sizeof(T) == 8) {
+        // Double precision: one complex value per register, bin k and its
+        // mirror as loaded, the twiddle's parts splatted by the loads. This
+        // needs one shuffle per bin pair, where the split form needs six.
+        using V = simd::Vec<double>;
+        const auto halfSplat = V::splat(0.5);
+        if constexpr (!Inv) {
+            // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm), Xk = E + F, Xm = conj(E - F);
+            // v_k for k and k + 1 (k odd) from one block of the table.
+            auto bin = [&](Qsp64s k, double vr, double vi) {
+                const auto a = V::loadu(&src[k].re);
+                const auto cb = V::negOdd(V::loadu(&src[half - k].re));
+                const auto e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
+                const auto f = V::addsub(V::mul(d, V::splat(vr)), V::mul(V::swapParts(d), V::splat(vi)));
+                V::storeu(&z[k].re, V::add(e, f));
+                V::storeu(&z[half - k].re, V::negOdd(V::sub(e, f)));
+            };
+            constexpr Qsp64s L = SV<T>::L;
+            const double* v = &table->re;
+            Qsp64s k = 1;
+            for (; k + 1 < quarter; k += 2, v += 2 * L) {
+                bin(k, v[0], v[L]);
+                bin(k + 1, v[1], v[L + 1]);
+            }
+            for (; k < quarter; ++k) {
+                const double* w = &table->re + forwardWholeIndex<T>(k);
+                bin(k, w[0], w[L]);
+            }
+            return quarter;
+        }
+        for (Qsp64s k = 1; k < quarter; ++k) {
+            const auto a = V::loadu(&src[k].re);
+            const auto cb = V::negOdd(V::loadu(&src[half - k].re));
+            // E = Xk + conj Xm, i O = (Xk - conj Xm) i w; Zk = E + i O, Zm = conj(E - i O)
+            const auto e = V::add(a, cb), d = V::sub(a, cb);
+            const auto io = V::addsub(V::mul(d, V::splat(-table[k].im)), V::mul(V::swapParts(d), V::splat(table[k].re)));
+            V::storeu(&z[k].re, V::add(e, io));
+            V::storeu(&z[half - k].re, V::negOdd(V::sub(e, io)));
+        }
+        return quarter;
+    }
     using K = SV<T>;
     using V = typename K::V;
     using X = typename K::X;
@@ -225,10 +261,9 @@ Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quart
     const auto halfSplat = V::splat(T(0.5));
     Qsp64s k = 1;
     for (; k + L <= quarter; k += L) {
-        C<T>* pk = z + k;
-        C<T>* pm = z + (half - k - (L - 1));
-        const X a = K::template load<true>(pk);
-        X b = K::template load<true>(pm);
+        const Qsp64s jk = k, jm = half - k - (L - 1);
+        const X a = K::template load<true>(src + jk);
+        X b = K::template load<true>(src + jm);
         b = {V::reverse(b.re), V::reverse(b.im)};
         X r, m;
         if constexpr (!Inv) {
@@ -246,8 +281,8 @@ Qsp64s ownsRecombineVector(C<T>* z, const C<T>* table, Qsp64s half, Qsp64s quart
             r = {V::sub(e.re, o.im), V::add(e.im, o.re)};
             m = {V::add(e.re, o.im), V::sub(o.re, e.im)};
         }
-        K::template store<true>(pk, r);
-        K::template store<true>(pm, X{V::reverse(m.re), V::reverse(m.im)});
+        K::template store<true>(z + jk, r);
+        K::template store<true>(z + jm, X{V::reverse(m.re), V::reverse(m.im)});
     }
     return k;
 }
@@ -268,10 +303,11 @@ inline void recombineBinForward(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
 
 // One bin pair of the inverse: E = Xk + conj Xm, O = (Xk - conj Xm) w with
 // w = conj(W^k); Zk = E + i O, Zm = conj(E - i O) (twice the forward Z).
+// The bins are read from src and written to z (src may equal z).
 template <class T>
-inline void recombineBinInverse(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
+inline void recombineBinInverse(const C<T>* src, C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
 {
-    const C<T> xk = z[k], xm = z[half - k];
+    const C<T> xk = src[k], xm = src[half - k];
     const C<T> e{xk.re + xm.re, xk.im - xm.im};
     const C<T> dlt{xk.re - xm.re, xk.im + xm.im};
     const C<T> o{dlt.re * w.re - dlt.im * w.im, dlt.re * w.im + dlt.im * w.re};
@@ -281,121 +317,118 @@ inline void recombineBinInverse(C<T>* z, Qsp64s k, Qsp64s half, C<T> w)
 
 // Z (the half-length transform of x[2m] + i*x[2m+1]) to the spectrum X in
 // Perm layout, in place. Bin 0 gives R0 and R(N/2); bin N/4 is conj(Z).
-template <class T, int SmallOrder = -1>
+template <class T>
 void ownsRecombineForward(const Record* rec, T* d, int order)
 {
-    if constexpr (SmallOrder >= 0) order = SmallOrder;
     const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
     C<T>* z = reinterpret_cast<C<T>*>(d);
     const T a = z[0].re, b = z[0].im;
     z[0] = {a + b, a - b};
-    if (n < 4) return;
     Qsp64s k = 1;
-    if (SmallOrder < 0 && !rec->recombSplit)
-        k = ownsRecombineVector<T, false>(z, static_cast<const C<T>*>(rec->recomb), half, quarter);
+    if (!rec->recombSplit)
+        k = ownsRecombineVector<T, false>(z, z, static_cast<const C<T>*>(rec->recomb), half, quarter);
     for (; k < quarter; ++k) recombineBinForward(z, k, half, realTwiddle<T, false>(rec, k, order));
     z[quarter].im = -z[quarter].im;
 }
 
-// X in Perm layout (in place) to 2*Z, whose half-length inverse transform
-// is N times x.
-template <class T, int SmallOrder = -1>
-void ownsRecombineInverse(const Record* rec, T* d, int order)
+// X to 2*Z, whose half-length inverse transform is N times x: R0 and
+// R(N/2) given, bins 1 .. N/2 - 1 read from s (pairs at element 2k, as in
+// Perm and CCS layout) and the result written to d (s may equal d).
+template <class T>
+void ownsRecombineInverseFrom(const Record* rec, const T* s, T* d, T r0, T rh, int order)
 {
-    if constexpr (SmallOrder >= 0) order = SmallOrder;
     const Qsp64s n = Qsp64s(1) << order, half = n >> 1, quarter = n >> 2;
+    const C<T>* x = reinterpret_cast<const C<T>*>(s);
     C<T>* z = reinterpret_cast<C<T>*>(d);
-    const T r0 = z[0].re, rh = z[0].im;
     z[0] = {r0 + rh, r0 - rh};
-    if (n < 4) return;
     Qsp64s k = 1;
-    if (SmallOrder < 0 && !rec->recombSplit)
-        k = ownsRecombineVector<T, true>(z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
-    for (; k < quarter; ++k) recombineBinInverse(z, k, half, realTwiddle<T, true>(rec, k, order));
-    z[quarter] = {T(2) * z[quarter].re, T(-2) * z[quarter].im};
+    if (!rec->recombSplit)
+        k = ownsRecombineVector<T, true>(x, z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
+    for (; k < quarter; ++k) recombineBinInverse(x, z, k, half, realTwiddle<T, true>(rec, k, order));
+    z[quarter] = {T(2) * x[quarter].re, T(-2) * x[quarter].im};
 }
 
-// The recombination by order: orders 1..5 unrolled with built-in twiddles.
-template <class T, bool Inv>
-void ownsRecombine(const Record* rec, T* d, int order)
-{
-    auto pick = [&](auto smallOrder) {
-        constexpr int o = decltype(smallOrder)::value;
-        if constexpr (Inv)
-            ownsRecombineInverse<T, o>(rec, d, o);
-        else
-            ownsRecombineForward<T, o>(rec, d, o);
-    };
-    switch (order) {
-    case 1: pick(std::integral_constant<int, 1>{}); return;
-    case 2: pick(std::integral_constant<int, 2>{}); return;
-    case 3: pick(std::integral_constant<int, 3>{}); return;
-    case 4: pick(std::integral_constant<int, 4>{}); return;
-    case 5: pick(std::integral_constant<int, 5>{}); return;
-    default:
-        if constexpr (Inv)
-            ownsRecombineInverse<T>(rec, d, order);
-        else
-            ownsRecombineForward<T>(rec, d, order);
-    }
-}
-
+// The real forward transform above the straight-line orders: the
+// half-length complex transform into the destination, the recombination
+// there (Perm layout) and the move into the layout asked for.
 template <class T>
 void ownsRealForwardCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
 {
     const int order = rec->order;
     const Qsp64s n = Qsp64s(1) << order;
-    if (order == 0) {
-        dst[0] = rec->forwardNormalise ? src[0] * factorOf<T>(rec) : src[0];
-    } else {
-        ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
-                              rec->forwardNormalise != 0, factorOf<T>(rec));
-        ownsRecombine<T, false>(rec, dst, order);
-    }
-    if (layout == Packed::Pack && n >= 4) {
+    ownsComplex<T, false>(rec, reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), work, order - 1,
+                          rec->forwardNormalise != 0, factorOf<T>(rec));
+    ownsRecombineForward<T>(rec, dst, order);
+    if (layout == Packed::Pack) {
         const T nyquist = dst[1];
         for (Qsp64s i = 1; i < n - 1; ++i) dst[i] = dst[i + 1];
         dst[n - 1] = nyquist;
     } else if (layout == Packed::Ccs) {
-        if (n >= 2) {
-            dst[n] = dst[1];
-            dst[n + 1] = T(0);
-        }
+        dst[n] = dst[1];
+        dst[n + 1] = T(0);
         dst[1] = T(0);
     }
 }
 
 // The real forward transforms of orders 0..5, one straight-line function
 // per order, layout and scaling: the half-length complex kernel (scaling as
-// it stores), the recombination with built-in twiddles and the layout.
+// it stores) into values of SmallOps, the recombination on those values with
+// built-in twiddles, and every bin stored once, as one value, where the
+// layout puts it. In CCS and Perm layout bin k is stored where the
+// half-length transform loads value k, so that a transform in place of the
+// previous one's result reads whole stores back.
 template <class T, Packed Layout, int Order, bool Scaled>
 __attribute__((flatten)) QspStatus ownsRealSmallForward(const T* src, T* dst, T f)
 {
-    constexpr Qsp64s n = Qsp64s(1) << Order;
     if constexpr (Order == 0) {
         dst[0] = Scaled ? src[0] * f : src[0];
+        if constexpr (Layout == Packed::Ccs) dst[1] = T(0);
     } else {
-        ownsFftSmall<T, false, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(src), reinterpret_cast<C<T>*>(dst), f);
-        ownsRecombineForward<T, Order>(nullptr, dst, Order);
-    }
-    if constexpr (Layout == Packed::Pack && n >= 4) {
-        const T nyquist = dst[1];
-        for (Qsp64s i = 1; i < n - 1; ++i) dst[i] = dst[i + 1];
-        dst[n - 1] = nyquist;
-    } else if constexpr (Layout == Packed::Ccs) {
-        if constexpr (n >= 2) {
-            dst[n] = dst[1];
-            dst[n + 1] = T(0);
+        using O = SmallOps<T>;
+        using Val = typename O::Value;
+        constexpr int n = 1 << Order, half = n / 2, quarter = n / 4;
+        Val z[half], x[half + 1];
+        smallDft<O, T, false, half>([&](int p) { return O::load(reinterpret_cast<const C<T>*>(src) + p); },
+                                    [&](int k, Val v) { z[k] = Scaled ? O::scale(v, f) : v; });
+        // Z[0] = (a, b): R0 = a + b, R(N/2) = a - b.
+        const Val sum = O::add(z[0], O::swap(z[0])), dif = O::sub(z[0], O::swap(z[0]));
+        x[0] = O::realParts(sum, O::zero());
+        x[half] = O::realParts(dif, O::zero());
+        // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm) with v_k = -i W_N^k / 2;
+        // Xk = E + F, Xm = conj(E - F), m = N/2 - k.
+#pragma GCC unroll 16
+        for (int k = 1; k < quarter; ++k) {
+            const Val a = z[k], b = O::conj(z[half - k]);
+            const Val e = O::scale(O::add(a, b), T(0.5));
+            const C<T> w = kSmallW<T>.w[k << (kSmallMax - Order)];
+            const Val fv = O::template mulConst<false>(O::sub(a, b), C<T>{w.im / 2, -w.re / 2});
+            x[k] = O::add(e, fv);
+            x[half - k] = O::conj(O::sub(e, fv));
         }
-        dst[1] = T(0);
+        if constexpr (quarter > 0) x[quarter] = O::conj(z[quarter]);
+        C<T>* out = reinterpret_cast<C<T>*>(dst);
+        if constexpr (Layout == Packed::Ccs) {
+#pragma GCC unroll 32
+            for (int k = 0; k <= half; ++k) O::store(out + k, x[k]);
+        } else if constexpr (Layout == Packed::Perm || n == 2) {
+            O::store(out, O::realParts(sum, dif));
+#pragma GCC unroll 32
+            for (int k = 1; k < half; ++k) O::store(out + k, x[k]);
+        } else {
+            // Pack: R0, then bin k at element 2k - 1, then R(N/2).
+            O::storeRe(dst, sum);
+#pragma GCC unroll 32
+            for (int k = 1; k < half; ++k) O::storeAt(dst + 2 * k - 1, x[k]);
+            O::storeRe(dst + n - 1, dif);
+        }
     }
     return qspStsOk;
 }
 
-// Real single precision, orders 4 and 5: the half-length transform Z stays in
+// Real single precision, orders 3 to 5: the half-length transform Z stays in
 // registers as pairs (Z[2j], Z[2j+1]) and is recombined there, bins k, k+1
-// together with their mirrors N/2-k, N/2-k-1. The spectrum is written in
-// CCS layout, to dst or, for the other layouts, to a buffer first.
+// together with their mirrors N/2-k, N/2-k-1, and the bins are stored as
+// aligned pairs in the layout asked for.
 template <Packed Layout, int Order, bool Scaled>
 __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, float* dst, float f)
 {
@@ -405,14 +438,14 @@ __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, f
     ownsFftPairs<false, Order - 1>(reinterpret_cast<const C<float>*>(src),
                                    [&](int k, __m128 v) { z[k / 2] = Scaled ? V::mul(v, V::splat(f)) : v; });
     z[half / 2] = z[0];  // Z[N/2] = Z[0]
-    alignas(16) float buf[Layout == Packed::Ccs ? 1 : n + 2];
-    float* out = Layout == Packed::Ccs ? dst : buf;
+    constexpr int quarter = half / 2;
     const __m128 conj = V::negOdd(V::zero()), halfSplat = V::splat(0.5f);
+    __m128 lo[quarter / 2], mirror[quarter / 2];
 #pragma GCC unroll 8
-    for (int k = 0; k < half / 2; k += 2) {
+    for (int k = 0; k < quarter; k += 2) {
         const __m128 a = z[k / 2];  // Z[k], Z[k+1]
         // Z[N/2-k], Z[N/2-k-1]
-        const __m128 b = _mm_shuffle_ps(z[(half - k) / 2], z[(half - k) / 2 - 1], _MM_SHUFFLE(3, 2, 1, 0));
+        const __m128 b = V::joinHalves(z[(half - k) / 2], z[(half - k) / 2 - 1]);
         const __m128 cb = V::bitXor(b, conj);
         // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm) with v_k = -i W_N^k / 2
         const __m128 e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
@@ -421,109 +454,181 @@ __attribute__((flatten)) QspStatus ownsRealSmallForwardPairs(const float* src, f
         const __m128 vr = _mm_setr_ps(w0.im / 2, w0.im / 2, w1.im / 2, w1.im / 2);
         const __m128 vi = _mm_setr_ps(-w0.re / 2, -w0.re / 2, -w1.re / 2, -w1.re / 2);
         const __m128 fv = V::addsub(V::mul(d, vr), V::mul(V::swapParts(d), vi));
-        // X[k], X[k+1] = E + F; X[N/2-k], X[N/2-k-1] = conj(E - F)
-        V::storeu(out + 2 * k, V::add(e, fv));
-        const __m128 m = V::bitXor(V::sub(e, fv), conj);
-        V::storeu(out + 2 * (half - k - 1), _mm_shuffle_ps(m, m, _MM_SHUFFLE(1, 0, 3, 2)));
+        // X[k], X[k+1] = E + F; X[N/2-k], X[N/2-k-1] = conj(E - F). At k = 0
+        // these are (a + b, 0) and (a - b, -0) for Z[0] = (a, b).
+        lo[k / 2] = V::add(e, fv);
+        mirror[k / 2] = V::bitXor(V::sub(e, fv), conj);
     }
-    // X[N/4] = conj Z[N/4]; bins 0 and N/2 from Z[0] = (a, b): a + b and a - b.
-    _mm_storel_pi(reinterpret_cast<__m64*>(out + half), V::bitXor(z[half / 4], conj));
-    const float a = _mm_cvtss_f32(z[0]), b = _mm_cvtss_f32(_mm_shuffle_ps(z[0], z[0], 1));
-    out[0] = a + b;
-    out[1] = 0.0f;
-    out[n] = a - b;
-    out[n + 1] = 0.0f;
-    if constexpr (Layout == Packed::Perm) {
-        dst[0] = out[0];
-        dst[1] = out[n];
-        for (int i = 2; i < n; ++i) dst[i] = out[i];
-    } else if constexpr (Layout == Packed::Pack) {
-        dst[0] = out[0];
-        for (int i = 1; i < n - 1; ++i) dst[i] = out[i + 1];
-        dst[n - 1] = out[n];
+    // The bins as aligned pairs p[j] = X[2j], X[2j+1], so that every store
+    // covers what the half-length transform loads as one value: the pairs
+    // below N/4, X[N/4] = conj Z[N/4] with X[N/4+1], the mirrored pairs
+    // regrouped, and X[N/2] with its imaginary part zero.
+    __m128 p[quarter + 1];
+#pragma GCC unroll 8
+    for (int j = 0; j < quarter / 2; ++j) p[j] = lo[j];
+    p[quarter / 2] = V::joinHalves(V::bitXor(z[quarter / 2], conj), mirror[quarter / 2 - 1]);
+#pragma GCC unroll 8
+    for (int j = quarter / 2 + 1; j < quarter; ++j) {
+        const int k = half - 2 * j;
+        p[j] = V::joinHalves(mirror[k / 2], mirror[k / 2 - 1]);
     }
+    p[quarter] = V::zipLo(mirror[0], V::zero());
+    if constexpr (Layout == Packed::Ccs) {
+#pragma GCC unroll 8
+        for (int j = 0; j < quarter; ++j) V::storeu(dst + 4 * j, p[j]);
+        V::storeLowHalf(dst + n, p[quarter]);
+    } else if constexpr (Layout == Packed::Perm) {
+        // R0, R(N/2), then bins 1.. in place.
+        V::storeu(dst, V::joinHalves(V::zipLo(p[0], p[quarter]), p[0]));
+#pragma GCC unroll 8
+        for (int j = 1; j < quarter; ++j) V::storeu(dst + 4 * j, p[j]);
+    } else {
+        // R0, bin 1 at elements 1, 2, pair j from element 4j - 1, R(N/2) last.
+        V::storeFirst(dst, p[0]);
+        V::storeHighHalf(dst + 1, p[0]);
+#pragma GCC unroll 8
+        for (int j = 1; j < quarter; ++j) V::storeu(dst + 4 * j - 1, p[j]);
+        V::storeFirst(dst + n - 1, p[quarter]);
+    }
+    return qspStsOk;
+}
+
+
+// The real inverse transforms of orders 0..5, one straight-line function
+// per order, layout and scaling: the packed spectrum loaded into values of
+// SmallOps, the inverse recombination on those values with built-in
+// twiddles, and the half-length complex kernel on them (scaling as it
+// stores) into the destination. Everything is read before the destination
+// is written.
+template <class T, Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallInverse(const T* src, T* dst, T f)
+{
+    if constexpr (Order == 0) {
+        dst[0] = Scaled ? src[0] * f : src[0];
+    } else {
+        using O = SmallOps<T>;
+        using Val = typename O::Value;
+        constexpr int n = 1 << Order, half = n / 2, quarter = n / 4;
+        const T r0 = src[0], rh = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
+        // Bin k at element 2k - 1 (Pack) or 2k (Perm, CCS).
+        Val x[half], z[half];
+#pragma GCC unroll 16
+        for (int k = 1; k < half; ++k) x[k] = O::loadAt(src + 2 * k - (Layout == Packed::Pack ? 1 : 0));
+        z[0] = O::pair(r0 + rh, r0 - rh);
+        // E = Xk + conj Xm, i O = (Xk - conj Xm) i conj(W_N^k); Zk = E + i O,
+        // Zm = conj(E - i O), m = N/2 - k (twice the forward Z).
+#pragma GCC unroll 16
+        for (int k = 1; k < quarter; ++k) {
+            const Val a = x[k], b = O::conj(x[half - k]);
+            const Val e = O::add(a, b);
+            const C<T> w = kSmallW<T>.w[k << (kSmallMax - Order)];
+            const Val io = O::template mulConst<false>(O::sub(a, b), C<T>{w.im, w.re});
+            z[k] = O::add(e, io);
+            z[half - k] = O::conj(O::sub(e, io));
+        }
+        if constexpr (quarter > 0) z[quarter] = O::scale(O::conj(x[quarter]), T(2));
+        smallDft<O, T, true, half>([&](int p) { return z[p]; }, [&](int k, Val v) {
+            O::store(reinterpret_cast<C<T>*>(dst) + k, Scaled ? O::scale(v, f) : v);
+        });
+    }
+    return qspStsOk;
+}
+
+// Real single precision inverse, orders 3 to 5: the spectrum loaded as
+// pairs p[j] = X[2j], X[2j+1] (bins 0 and N/2, whose pair lanes are not
+// read, are taken as scalars), recombined in registers into the pairs of
+// 2Z, and the half-length inverse transform run on those registers, storing
+// pairs where the forward transform loads them.
+template <Packed Layout, int Order, bool Scaled>
+__attribute__((flatten)) QspStatus ownsRealSmallInversePairs(const float* src, float* dst, float f)
+{
+    using V = simd::Vec<float>;
+    constexpr int n = 1 << Order, half = n / 2, quarter = half / 2;
+    const float r0 = src[0], rh = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
+    __m128 p[quarter + 1];
+    // Pack holds bin k at element 2k - 1; the others at 2k.
+    p[0] = Layout == Packed::Pack ? V::loadPairDup(src + 1) : V::loadu(src);
+#pragma GCC unroll 8
+    for (int j = 1; j < quarter; ++j) p[j] = V::loadu(src + 4 * j - (Layout == Packed::Pack ? 1 : 0));
+    p[quarter] = p[0];  // only the lanes of bin N/2, which are not used
+    const __m128 conj = V::negOdd(V::zero());
+    __m128 zk[quarter / 2], zm[quarter / 2];
+#pragma GCC unroll 8
+    for (int k = 0; k < quarter; k += 2) {
+        const __m128 a = p[k / 2];  // X[k], X[k+1]
+        // X[N/2-k], X[N/2-k-1]
+        const __m128 cb = V::bitXor(V::joinHalves(p[(half - k) / 2], p[(half - k) / 2 - 1]), conj);
+        // E = Xk + conj Xm, O = (Xk - conj Xm) conj(W_N^k); Zk = E + i O, Zm = conj(E - i O)
+        const __m128 e = V::add(a, cb), d = V::sub(a, cb);
+        const C<float> w0 = kSmallW<float>.w[k << (kSmallMax - Order)];
+        const C<float> w1 = kSmallW<float>.w[(k + 1) << (kSmallMax - Order)];
+        // i O = (Xk - conj Xm) i conj(W), with i conj(W) = (Im W, Re W)
+        const __m128 wr = _mm_setr_ps(w0.im, w0.im, w1.im, w1.im);
+        const __m128 wi = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
+        const __m128 io = V::addsub(V::mul(d, wr), V::mul(V::swapParts(d), wi));
+        zk[k / 2] = V::add(e, io);
+        zm[k / 2] = V::bitXor(V::sub(e, io), conj);
+    }
+    // The pairs of 2Z: Z[0] = (r0 + rh, r0 - rh), the pairs below N/4,
+    // Z[N/4] = 2 conj X[N/4] with Z[N/4+1], and the mirrored pairs regrouped.
+    __m128 q[quarter];
+    q[0] = V::joinHalves(_mm_setr_ps(r0 + rh, r0 - rh, 0.0f, 0.0f), zk[0]);
+#pragma GCC unroll 8
+    for (int j = 1; j < quarter / 2; ++j) q[j] = zk[j];
+    q[quarter / 2] = V::joinHalves(V::mul(V::bitXor(p[quarter / 2], conj), V::splat(2.0f)), zm[quarter / 2 - 1]);
+#pragma GCC unroll 8
+    for (int j = quarter / 2 + 1; j < quarter; ++j) {
+        const int k = half - 2 * j;
+        q[j] = V::joinHalves(zm[k / 2], zm[k / 2 - 1]);
+    }
+    ownsFftPairsOf<true, Order - 1>([&](int j) { return q[j]; }, [&](int k, __m128 v) {
+        V::storeu(dst + 2 * k, Scaled ? V::mul(v, V::splat(f)) : v);
+    });
     return qspStsOk;
 }
 
 template <class T>
 using RealSmallKernel = QspStatus (*)(const T*, T*, T);
 
-template <class T, Packed Layout, int Order, bool Scaled>
-inline constexpr RealSmallKernel<T> kRealSmallForwardOne = ownsRealSmallForward<T, Layout, Order, Scaled>;
-template <Packed Layout, int Order, bool Scaled>
-    requires(Order >= 4)
-inline constexpr RealSmallKernel<float> kRealSmallForwardOne<float, Layout, Order, Scaled> =
-    ownsRealSmallForwardPairs<Layout, Order, Scaled>;
+// The straight-line real kernel of one direction, layout, order and
+// scaling: single precision from order 3 on register pairs.
+template <class T, Packed Layout, bool Inverse, int Order, bool Scaled>
+inline constexpr RealSmallKernel<T> kRealSmallOne =
+    Inverse ? ownsRealSmallInverse<T, Layout, Order, Scaled> : ownsRealSmallForward<T, Layout, Order, Scaled>;
+template <Packed Layout, bool Inverse, int Order, bool Scaled>
+    requires(Order >= 3)
+inline constexpr RealSmallKernel<float> kRealSmallOne<float, Layout, Inverse, Order, Scaled> =
+    Inverse ? ownsRealSmallInversePairs<Layout, Order, Scaled> : ownsRealSmallForwardPairs<Layout, Order, Scaled>;
 
 // At 2 * order + scaled.
-template <class T, Packed Layout>
-inline constexpr RealSmallKernel<T> kRealSmallForward[12] = {
-    kRealSmallForwardOne<T, Layout, 0, false>, kRealSmallForwardOne<T, Layout, 0, true>,
-    kRealSmallForwardOne<T, Layout, 1, false>, kRealSmallForwardOne<T, Layout, 1, true>,
-    kRealSmallForwardOne<T, Layout, 2, false>, kRealSmallForwardOne<T, Layout, 2, true>,
-    kRealSmallForwardOne<T, Layout, 3, false>, kRealSmallForwardOne<T, Layout, 3, true>,
-    kRealSmallForwardOne<T, Layout, 4, false>, kRealSmallForwardOne<T, Layout, 4, true>,
-    kRealSmallForwardOne<T, Layout, 5, false>, kRealSmallForwardOne<T, Layout, 5, true>,
+template <class T, Packed Layout, bool Inverse>
+inline constexpr RealSmallKernel<T> kRealSmall[12] = {
+    kRealSmallOne<T, Layout, Inverse, 0, false>, kRealSmallOne<T, Layout, Inverse, 0, true>,
+    kRealSmallOne<T, Layout, Inverse, 1, false>, kRealSmallOne<T, Layout, Inverse, 1, true>,
+    kRealSmallOne<T, Layout, Inverse, 2, false>, kRealSmallOne<T, Layout, Inverse, 2, true>,
+    kRealSmallOne<T, Layout, Inverse, 3, false>, kRealSmallOne<T, Layout, Inverse, 3, true>,
+    kRealSmallOne<T, Layout, Inverse, 4, false>, kRealSmallOne<T, Layout, Inverse, 4, true>,
+    kRealSmallOne<T, Layout, Inverse, 5, false>, kRealSmallOne<T, Layout, Inverse, 5, true>,
 };
 
-// The real inverse transforms of orders 0..5, one straight-line function
-// per order, layout and scaling: the packed spectrum read into a local
-// array in Perm order, the inverse recombination with built-in twiddles,
-// and the half-length complex kernel (scaling as it stores) into the
-// destination. Everything is read before the destination is written.
-template <class T, Packed Layout, int Order, bool Scaled>
-__attribute__((flatten)) QspStatus ownsRealSmallInverse(const T* src, T* dst, T f)
-{
-    constexpr Qsp64s n = Qsp64s(1) << Order;
-    if constexpr (Order == 0) {
-        dst[0] = Scaled ? src[0] * f : src[0];
-    } else {
-        alignas(16) T z[n];
-        z[0] = src[0];
-        z[1] = Layout == Packed::Pack ? src[n - 1] : Layout == Packed::Ccs ? src[n] : src[1];
-        for (Qsp64s i = 2; i < n; ++i) z[i] = Layout == Packed::Pack ? src[i - 1] : src[i];
-        ownsRecombineInverse<T, Order>(nullptr, z, Order);
-        ownsFftSmall<T, true, Order - 1, Scaled>(reinterpret_cast<const C<T>*>(z), reinterpret_cast<C<T>*>(dst), f);
-    }
-    return qspStsOk;
-}
-
-// At 2 * order + scaled.
-template <class T, Packed Layout>
-inline constexpr RealSmallKernel<T> kRealSmallInverse[12] = {
-    ownsRealSmallInverse<T, Layout, 0, false>, ownsRealSmallInverse<T, Layout, 0, true>,
-    ownsRealSmallInverse<T, Layout, 1, false>, ownsRealSmallInverse<T, Layout, 1, true>,
-    ownsRealSmallInverse<T, Layout, 2, false>, ownsRealSmallInverse<T, Layout, 2, true>,
-    ownsRealSmallInverse<T, Layout, 3, false>, ownsRealSmallInverse<T, Layout, 3, true>,
-    ownsRealSmallInverse<T, Layout, 4, false>, ownsRealSmallInverse<T, Layout, 4, true>,
-    ownsRealSmallInverse<T, Layout, 5, false>, ownsRealSmallInverse<T, Layout, 5, true>,
-};
-
+// The real inverse transform above the straight-line orders: the inverse
+// recombination into the destination, then the half-length complex
+// transform there.
 template <class T>
 void ownsRealInverseCall(const Record* rec, const T* src, T* dst, C<T>* work, Packed layout)
 {
     const int order = rec->order;
     const Qsp64s n = Qsp64s(1) << order;
-    if (order == 0) {
-        dst[0] = rec->inverseNormalise ? src[0] * factorOf<T>(rec) : src[0];
-        return;
-    }
-    // Bring the packed spectrum into Perm layout in the destination.
+    // Perm and CCS hold bins 1 .. N/2 - 1 where the recombination reads
+    // them, so it reads them from the source; Pack's bins are first moved
+    // there in the destination (from the top down, so src may equal dst).
     if (layout == Packed::Pack) {
-        const T nyquist = src[n - 1];
+        const T r0 = src[0], rh = src[n - 1];
         for (Qsp64s i = n - 1; i >= 2; --i) dst[i] = src[i - 1];
-        dst[1] = nyquist;
-        dst[0] = src[0];
-    } else if (layout == Packed::Ccs) {
-        const T nyquist = src[n];
-        dst[0] = src[0];
-        if (src != dst)
-            for (Qsp64s i = 2; i < n; ++i) dst[i] = src[i];
-        dst[1] = nyquist;
-    } else if (src != dst) {
-        for (Qsp64s i = 0; i < n; ++i) dst[i] = src[i];
+        ownsRecombineInverseFrom<T>(rec, dst, dst, r0, rh, order);
+    } else {
+        ownsRecombineInverseFrom<T>(rec, src, dst, src[0], layout == Packed::Ccs ? src[n] : src[1], order);
     }
-    ownsRecombine<T, true>(rec, dst, order);
     C<T>* z = reinterpret_cast<C<T>*>(dst);
     ownsComplex<T, true>(rec, z, z, work, order - 1, rec->inverseNormalise != 0, factorOf<T>(rec));
 }
@@ -549,8 +654,7 @@ inline QspStatus ownsRealEntry(const void* spec, Kind kind, const T* src, T* dst
     const int order = rec->order;
     if (__builtin_expect(order <= kSmallMax, 1)) {
         const bool scaled = (Inverse ? rec->inverseNormalise : rec->forwardNormalise) != 0;
-        const RealSmallKernel<T>* kernels = Inverse ? kRealSmallInverse<T, Layout> : kRealSmallForward<T, Layout>;
-        return kernels[2 * order + int(scaled)](src, dst, factorOf<T>(rec));
+        return kRealSmall<T, Layout, Inverse>[2 * order + int(scaled)](src, dst, factorOf<T>(rec));
     }
     if (missingWork(rec, work)) return qspStsNullPtr;
     return ownsRealOutOfLine<T, Layout, Inverse>(rec, src, dst, workOf<C<T>>(rec, work));
