@@ -287,6 +287,42 @@ Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s h
     return k;
 }
 
+// The vector loop for coarse + fine tables (orders above 20): the factors
+// of kRecombChunk bins at a time are formed, each as its table entry would
+// be, in a block laid out like a whole table, and the vector loop runs on
+// that chunk as on a shorter spectrum whose bin 1 is the chunk's first bin
+// (bins k and N/2 - k keep their pairing: both move by the same offset, and
+// the half length shrinks by twice that). Returns the first bin left for
+// the scalar loop.
+constexpr Qsp64s kRecombChunk = 512;
+
+template <class T, bool Inv>
+Qsp64s ownsRecombineSplitVector(const Record* rec, const C<T>* src, C<T>* z, Qsp64s half, Qsp64s quarter, int order)
+{
+    constexpr Qsp64s L = SV<T>::L, M = kRecombChunk;
+    static_assert(M % (2 * L) == 0, "a chunk holds whole blocks of bins");
+    const Qsp64s n = Qsp64s(1) << order;
+    const C<T>* table = static_cast<const C<T>*>(Inv ? rec->recombInv : rec->recomb);
+    alignas(64) C<T> block[M + 1];
+    Qsp64s k0 = 1;
+    for (; k0 + M <= quarter; k0 += M) {
+        for (Qsp64s j = 1; j <= M; ++j) {
+            const C<T> w = recombTwiddle<T>(rec, table, k0 - 1 + j, n);
+            if constexpr (Inv) {
+                block[j] = w;
+            } else {
+                // v = -i W / 2, block-split (forwardWholeIndex)
+                T* f = &block->re + forwardWholeIndex<T>(j);
+                f[0] = w.im * T(0.5);
+                f[L] = -w.re * T(0.5);
+            }
+        }
+        const Qsp64s off = k0 - 1;
+        ownsRecombineVector<T, Inv>(src + off, z + off, block, half - 2 * off, M + 1);
+    }
+    return k0;
+}
+
 // One bin pair of the forward recombination: from Zk and Zm = Z(N/2-k),
 // E = (Zk + conj Zm)/2, O = -i (Zk - conj Zm)/2, Xk = E + W O and
 // X(N/2-k) = conj(E - W O).
@@ -327,6 +363,8 @@ void ownsRecombineForward(const Record* rec, T* d, int order)
     Qsp64s k = 1;
     if (!rec->recombSplit)
         k = ownsRecombineVector<T, false>(z, z, static_cast<const C<T>*>(rec->recomb), half, quarter);
+    else
+        k = ownsRecombineSplitVector<T, false>(rec, z, z, half, quarter, order);
     for (; k < quarter; ++k) recombineBinForward(z, k, half, realTwiddle<T, false>(rec, k, order));
     z[quarter].im = -z[quarter].im;
 }
@@ -344,6 +382,8 @@ void ownsRecombineInverseFrom(const Record* rec, const T* s, T* d, T r0, T rh, i
     Qsp64s k = 1;
     if (!rec->recombSplit)
         k = ownsRecombineVector<T, true>(x, z, static_cast<const C<T>*>(rec->recombInv), half, quarter);
+    else
+        k = ownsRecombineSplitVector<T, true>(rec, x, z, half, quarter, order);
     for (; k < quarter; ++k) recombineBinInverse(x, z, k, half, realTwiddle<T, true>(rec, k, order));
     z[quarter] = {T(2) * x[quarter].re, T(-2) * x[quarter].im};
 }
