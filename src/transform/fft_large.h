@@ -57,7 +57,7 @@ template <class T>
 inline constexpr Qsp64s kLargeBand = 128 / Qsp64s(sizeof(C<T>));
 
 // Columns per batch: R x B values in each of the column phase's two
-// buffers, about 512 KiB each, and never fewer than a cache line of
+// buffers, about 512 KiB each, and never fewer than a band (kLargeBand) of
 // columns. Wide batches keep the column transforms' inner loops long, make
 // the batch-start factors (R per batch) cheap, and above all read more of
 // each source row per visit: rows lie C values apart, each on a page of its
