@@ -82,7 +82,9 @@ struct Sizes {
     Qsp64s spec, init, work;
 };
 
-// Tier bounds of the complex engine.
+// Tier bounds of the complex engine. The records of orders 6 and 7 keep
+// the medium tier's sizes and tables although the straight-line kernels
+// (fft_small.h) now run those orders: the sizes are part of the interface.
 constexpr int kSmallMax = 5;
 inline int largeFrom(bool dbl) { return dbl ? 17 : 18; }
 

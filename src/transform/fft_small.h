@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
-// The straight-line kernels of the small tier (N <= 32): one function per
-// order, with their twiddles as compile-time constants.
+// The straight-line kernels of the small tier (N <= 32) and of orders 6
+// and 7: one function per order, with their twiddles as compile-time
+// constants.
 #pragma once
 #include "fft_vectors.h"
 
@@ -8,13 +9,14 @@ namespace fft {
 
 // ---------------------------------------------------------------- small
 
-// The straight-line kernels, orders 0..5, everything in registers with the
+// The straight-line kernels, orders 0..7, everything in registers (orders
+// 6 and 7: two levels, the values between them on the stack) with the
 // twiddles as constants; no tables, no buffer. Scaled variants multiply by
 // the factor as they store.
 //  - Double precision: one complex value per register; the DFT is written
 //    out on those values (smallDft).
 //  - Single precision, orders 0 and 1: scalar pairs, written out the same way.
-//  - Single precision, orders 2..5 (N = 2M): a register holds x[2j] and
+//  - Single precision, orders 2..7 (N = 2M): a register holds x[2j] and
 //    x[2j+1] as loaded, so the same M-point DFT run on the registers
 //    transforms the even samples in the low half and the odd samples in the
 //    high half at once. Pairs of results are then regrouped (a_k, a_k+1),
@@ -23,24 +25,38 @@ namespace fft {
 
 // W_32^k, k < 32, for the written-out kernels and the recombination of the
 // straight-line real orders (W_N^k = W_32^(32k/N)).
-template <class T>
+template <class T, int N>
 struct SmallW {
-    C<T> w[32];
+    C<T> w[N];
 };
 
-template <class T>
-constexpr SmallW<T> makeSmallW()
+template <class T, int N>
+constexpr SmallW<T, N> makeSmallW()
 {
-    SmallW<T> t{};
-    for (int k = 0; k < 32; ++k) {
-        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / 32.0);
+    SmallW<T, N> t{};
+    for (int k = 0; k < N; ++k) {
+        const mathfn::SinCosExt sc = mathfn::sinCosPiExt(-2.0 * k / N);
         t.w[k] = {T(sc.c), T(sc.s)};
     }
     return t;
 }
 
 template <class T>
-inline constexpr SmallW<T> kSmallW = makeSmallW<T>();
+inline constexpr SmallW<T, 32> kSmallW = makeSmallW<T, 32>();
+// W_128^k, k < 128, for the written-out double-precision kernels of 64 and
+// 128 points (W_M^e = W_128^(128e/M)).
+template <class T>
+inline constexpr SmallW<T, 128> kWideW = makeSmallW<T, 128>();
+
+// W_N^k for the written-out kernels, N <= 128.
+template <class T, int N>
+constexpr C<T> smallTwiddle(int k)
+{
+    if constexpr (N <= 32)
+        return kSmallW<T>.w[k * (32 / N)];
+    else
+        return kWideW<T>.w[k * (128 / N)];
+}
 
 // Values of the written-out kernels: scalar pairs, or registers of one
 // (double) or two (float) complex values. Every operation acts on each
@@ -150,7 +166,7 @@ inline void butterflyEighths(typename O::Value a, typename O::Value b, typename 
     t[3] = O::scale(O::sub(r, q), h);
 }
 
-// The M-point DFT (M = 1..32) of the values in(0..M-1), written out; out(k, v)
+// The M-point DFT (M = 1..128) of the values in(0..M-1), written out; out(k, v)
 // receives output k. Every input is read before the first output is given.
 template <class O, class T, bool Inv, int M, class In, class Out>
 inline void smallDft(In in, Out out)
@@ -183,6 +199,32 @@ inline void smallDft(In in, Out out)
             out(k, O::add(e[k], t[k]));
             out(k + 4, O::sub(e[k], t[k]));
         }
+    } else if constexpr (M >= 64) {
+        // A radix-8 level with the twiddles W_M^(kp) as constants, then
+        // 8- or 16-point transforms of the columns: two levels of register
+        // code where radix-4 levels would need three.
+        constexpr int m = M / 8;
+        Val y[M];
+        #pragma GCC unroll 16
+        for (int p = 0; p < m; ++p) {
+            smallDft<O, T, Inv, 8>([&](int j) { return in(p + j * m); }, [&](int k, Val v) {
+                const int e = (k * p * (128 / M)) & 127;
+                if (e == 0)
+                    y[8 * p + k] = v;
+                else if (e == 32)
+                    y[8 * p + k] = O::template rot<Inv>(v);
+                else if (e == 16)
+                    y[8 * p + k] = scaleH(eighth<O, Inv>(v));
+                else if (e == 48)
+                    y[8 * p + k] = scaleH(threeEighths<O, Inv>(v));
+                else
+                    y[8 * p + k] = O::template mulConst<Inv>(v, smallTwiddle<T, 128>(e));
+            });
+        }
+        // Column k holds y[8p + k], p < m; its output r is X[k + 8r].
+        #pragma GCC unroll 16
+        for (int k = 0; k < 8; ++k)
+            smallDft<O, T, Inv, m>([&](int p) { return y[8 * p + k]; }, [&](int r, Val v) { out(k + 8 * r, v); });
     } else {
         // A radix-4 level with the twiddles W_M^(kp) as constants, then
         // 4- or 8-point transforms of the columns.
@@ -241,7 +283,7 @@ inline void ownsFftPairsOf(In in, Put put)
             const __m128 turned = _mm_shuffle_ps(b, b, _MM_SHUFFLE(2, 3, 1, 0));
             wb = V::bitXor(turned, Inv ? _mm_setr_ps(0.0f, 0.0f, -0.0f, 0.0f) : _mm_setr_ps(0.0f, 0.0f, 0.0f, -0.0f));
         } else {
-            const C<float> w0 = kSmallW<float>.w[k * (32 / n)], w1 = kSmallW<float>.w[(k + 1) * (32 / n)];
+            const C<float> w0 = smallTwiddle<float, n>(k), w1 = smallTwiddle<float, n>(k + 1);
             const float s = Inv ? -1.0f : 1.0f;
             const __m128 wr = _mm_setr_ps(w0.re, w0.re, w1.re, w1.re);
             const __m128 wi = _mm_setr_ps(s * w0.im, s * w0.im, s * w1.im, s * w1.im);
@@ -298,6 +340,20 @@ inline constexpr SmallKernel<T, Inv> kSmallKernels[12] = {
     ownsFftSmallEntry<T, Inv, 4, false>, ownsFftSmallEntry<T, Inv, 4, true>,
     ownsFftSmallEntry<T, Inv, 5, false>, ownsFftSmallEntry<T, Inv, 5, true>,
 };
+
+// Orders 6 and 7 also run as straight-line code: the compiler keeps the
+// values between the two levels on the stack, which is where a pass would
+// put them anyway, and the twiddles stay constants.
+inline constexpr int kWideMax = 7;
+
+template <class T, bool Inv>
+inline void ownsWide(int order, bool scaled, const C<T>* src, C<T>* dst, T f)
+{
+    using K = void (*)(const C<T>*, C<T>*, T);
+    static constexpr K kernels[4] = {ownsFftSmall<T, Inv, 6, false>, ownsFftSmall<T, Inv, 6, true>,
+                                     ownsFftSmall<T, Inv, 7, false>, ownsFftSmall<T, Inv, 7, true>};
+    kernels[2 * (order - 6) + int(scaled)](src, dst, f);
+}
 
 // A small transform, src to dst (src may equal dst), scaled by f when
 // scaled is set.

@@ -71,6 +71,8 @@ void ownsComplex(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work, int 
     const Qsp64s n = Qsp64s(1) << order;
     if (order <= kSmallMax)
         ownsSmall<T, Inv>(order, scaled, src, dst, f);
+    else if (order <= kWideMax)
+        ownsWide<T, Inv>(order, scaled, src, dst, f);
     else if (order < largeFrom(sizeof(T) == 8))
         ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
                             halvesOf(work, n), order, tw, scaled, f);
@@ -121,10 +123,14 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
     const bool scaled = normalises<Inv>(rec);
     const T f = factorOf<T>(rec);
     const C<T>* tw = static_cast<const C<T>*>(rec->twiddles);
-    if (order <= kSmallMax) {
-        C<T> buf[1 << kSmallMax];
+    if (order <= kWideMax) {
+        // The straight-line kernels on an interleaved copy.
+        C<T> buf[1 << kWideMax];
         for (Qsp64s i = 0; i < n; ++i) buf[i] = {srcRe[i], srcIm[i]};
-        ownsSmall<T, Inv>(order, scaled, buf, buf, f);
+        if (order <= kSmallMax)
+            ownsSmall<T, Inv>(order, scaled, buf, buf, f);
+        else
+            ownsWide<T, Inv>(order, scaled, buf, buf, f);
         for (Qsp64s i = 0; i < n; ++i) {
             dstRe[i] = buf[i].re;
             dstIm[i] = buf[i].im;
