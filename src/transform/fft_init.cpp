@@ -38,8 +38,11 @@ Qsp8u* fillComplexTables(fft::Record* rec, int order, const fft::Octant<T>& oct,
         return at;
     }
     if (order < fft::largeFrom(sizeof(T) == 8)) {
-        fft::ownsFillMediumTwiddles<T>(tw, order, oct);
-        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::mediumTwiddleCount<T>(order)));
+        if (fft::fourStepOrder<T>(order))
+            fft::ownsFillFourStepTwiddles<T>(tw, order, oct);
+        else
+            fft::ownsFillMediumTwiddles<T>(tw, order, oct);
+        return fft::alignUp64(reinterpret_cast<Qsp8u*>(tw + fft::complexTwiddleCount<T>(order)));
     }
     // The large tier's tables, followed by the large layout's own extra
     // record bytes (single precision, order 19 and above).

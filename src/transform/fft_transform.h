@@ -3,6 +3,7 @@
 // checks against the record, the choice of tier, normalisation, and the real
 // transforms' recombination and packed layouts.
 #pragma once
+#include "fft_fourstep.h"
 #include "fft_medium.h"
 #include "fft_record.h"
 #include "fft_small.h"
@@ -73,7 +74,10 @@ void ownsComplex(const Record* rec, const C<T>* src, C<T>* dst, C<T>* work, int 
         ownsSmall<T, Inv>(order, scaled, src, dst, f);
     else if (order <= kWideMax)
         ownsWide<T, Inv>(order, scaled, src, dst, f);
-    else if (order < largeFrom(sizeof(T) == 8))
+    else if (fourStepOrder<T>(order)) {
+        if constexpr (sizeof(T) == 8)
+            ownsFourStepRun<Inv>(InterleavedIn<T, Inv>{src}, FourStepInterleaved{dst}, work, order, tw, scaled, f);
+    } else if (order < largeFrom(sizeof(T) == 8))
         ownsFftMediumRun<T>(InterleavedIn<T, Inv>{src}, halvesOf(dst, n), InterleavedOut<T, Inv>{dst}, true,
                             halvesOf(work, n), order, tw, scaled, f);
     else
@@ -140,6 +144,12 @@ void ownsSplitCall(const Record* rec, const T* srcRe, const T* srcIm, T* dstRe, 
     // The destination arrays serve as the second buffer of N values (real
     // array = first half, imaginary array = second half).
     const Halves<C<T>> dstPair{reinterpret_cast<C<T>*>(dstRe), reinterpret_cast<C<T>*>(dstIm)};
+    if constexpr (sizeof(T) == 8) {
+        if (fourStepOrder<T>(order)) {
+            ownsFourStepRun<Inv>(SplitIn<T, Inv>{srcRe, srcIm}, FourStepSplit{dstRe, dstIm}, work, order, tw, scaled, f);
+            return;
+        }
+    }
     if (order < largeFrom(sizeof(T) == 8)) {
         ownsFftMediumRun<T>(SplitIn<T, Inv>{srcRe, srcIm}, dstPair, SplitOut<T, Inv>{dstRe, dstIm}, false,
                             halvesOf(work, n), order, tw, scaled, f);

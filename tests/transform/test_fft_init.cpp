@@ -3,6 +3,7 @@
 
 #include "fft_kinds.h"
 #include "fft_real_kinds.h"
+#include "transform/fft_fourstep.h"
 #include "transform/fft_record.h"
 
 using namespace fftkinds;
@@ -149,7 +150,7 @@ TEST(FFTInit, SplitRecordsAreInterleavedOnesWithTheirOwnIdentifier)
         EXPECT_EQ(header(ra)->id, 5u);
         EXPECT_EQ(header(rb)->id, 6u);
         // Same twiddle tables, value for value.
-        const size_t count = order <= 5 ? 0 : (size_t)fft::mediumTwiddleCount<float>(order);
+        const size_t count = order <= 5 ? 0 : (size_t)fft::complexTwiddleCount<float>(order);
         if (count == 0) {
             EXPECT_EQ(header(ra)->twiddles, nullptr);
             EXPECT_EQ(header(rb)->twiddles, nullptr);
