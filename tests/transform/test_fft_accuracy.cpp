@@ -58,11 +58,12 @@ TEST(FFTAccuracy, EveryKindEveryOrderFlagAndDirection)
     }
     qspSetFlushToZero(0, nullptr);
     qspSetDenormAreZeros(0, nullptr);
-    // Every flag at every straight-line order (each order and scaling has a
+    // Every flag at every straight-line order and at every order of the
+    // double-precision two-step transform (each order and scaling has a
     // kernel of its own), at the tier boundaries and a few orders between.
     for (K k : {K::C32fc, K::C32f, K::C64fc, K::C64f})
         for (int flag : {1, 2, 4, 8})
-            for (int order : {0, 1, 2, 3, 4, 5, 6, 9, 12, 16, 17, 18})
+            for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 16, 17, 18})
                 for (bool inverse : {false, true}) checkOrder(k, order, flag, inverse);
 }
 

@@ -92,9 +92,11 @@ TEST(FFTReal, EveryPrecisionOrderLayoutAndFlag)
             checkForward<double>(order, 8, l, l == Layout::Perm);
             checkInverse<double>(order, 8, l, l == Layout::Perm);
         }
-    // Every flag at every straight-line order (0..5) and a few above.
+    // Every flag at every straight-line real order (0..5), at the orders
+    // whose half-length transform is straight-line (7, 8) or in two steps
+    // (double precision, 9..11), and a few above.
     for (int flag : {1, 2, 4, 8})
-        for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 11, 18, 19})
+        for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 18, 19})
             for (Layout l : {Layout::Pack, Layout::Perm, Layout::Ccs}) {
                 checkForward<float>(order, flag, l);
                 checkInverse<float>(order, flag, l);
