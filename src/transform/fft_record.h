@@ -84,7 +84,9 @@ struct Sizes {
 
 // Tier bounds of the complex engine. The records of orders 6 and 7 keep
 // the medium tier's sizes and tables although the straight-line kernels
-// (fft_small.h) now run those orders: the sizes are part of the interface.
+// (fft_small.h) run those orders, and double precision's orders 8..10 keep
+// their sizes and hold the smaller two-step table (fft_fourstep.h): the
+// sizes are part of the interface.
 constexpr int kSmallMax = 5;
 inline int largeFrom(bool dbl) { return dbl ? 17 : 18; }
 

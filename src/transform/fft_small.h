@@ -23,8 +23,9 @@ namespace fft {
 //    (b_k, b_k+1), the odd half twiddled by W_N^k, W_N^(k+1), and
 //    X[k] = a + W b, X[k+M] = a - W b written two at a time.
 
-// W_32^k, k < 32, for the written-out kernels and the recombination of the
-// straight-line real orders (W_N^k = W_32^(32k/N)).
+// W_N^k, k < N, as constants: W_32 for the written-out kernels up to 32
+// points and the recombination of the straight-line real orders
+// (W_N^k = W_32^(32k/N)), W_128 for those of 64 and 128 points.
 template <class T, int N>
 struct SmallW {
     C<T> w[N];
@@ -43,8 +44,6 @@ constexpr SmallW<T, N> makeSmallW()
 
 template <class T>
 inline constexpr SmallW<T, 32> kSmallW = makeSmallW<T, 32>();
-// W_128^k, k < 128, for the written-out double-precision kernels of 64 and
-// 128 points (W_M^e = W_128^(128e/M)).
 template <class T>
 inline constexpr SmallW<T, 128> kWideW = makeSmallW<T, 128>();
 
