@@ -173,6 +173,16 @@ inline void smallDft(In in, Out out)
     using Val = typename O::Value;
     constexpr T h = T(0.707106781186547524400844362104849039L);
     auto scaleH = [](Val v) { return O::scale(v, h); };
+    // v W_P^e for P = 32 or 128 and 0 <= e < P, the quarter and eighth
+    // turns without a general product (e is a constant once the callers'
+    // loops are unrolled).
+    auto twiddled = [&](Val v, int e, int period) {
+        if (e == 0) return v;
+        if (4 * e == period) return O::template rot<Inv>(v);
+        if (8 * e == period) return scaleH(eighth<O, Inv>(v));
+        if (8 * e == 3 * period) return scaleH(threeEighths<O, Inv>(v));
+        return O::template mulConst<Inv>(v, period == 32 ? kSmallW<T>.w[e] : kWideW<T>.w[e]);
+    };
     if constexpr (M == 1) {
         out(0, in(0));
     } else if constexpr (M == 2) {
@@ -206,19 +216,8 @@ inline void smallDft(In in, Out out)
         Val y[M];
         #pragma GCC unroll 16
         for (int p = 0; p < m; ++p) {
-            smallDft<O, T, Inv, 8>([&](int j) { return in(p + j * m); }, [&](int k, Val v) {
-                const int e = (k * p * (128 / M)) & 127;
-                if (e == 0)
-                    y[8 * p + k] = v;
-                else if (e == 32)
-                    y[8 * p + k] = O::template rot<Inv>(v);
-                else if (e == 16)
-                    y[8 * p + k] = scaleH(eighth<O, Inv>(v));
-                else if (e == 48)
-                    y[8 * p + k] = scaleH(threeEighths<O, Inv>(v));
-                else
-                    y[8 * p + k] = O::template mulConst<Inv>(v, smallTwiddle<T, 128>(e));
-            });
+            smallDft<O, T, Inv, 8>([&](int j) { return in(p + j * m); },
+                                   [&](int k, Val v) { y[8 * p + k] = twiddled(v, (k * p * (128 / M)) & 127, 128); });
         }
         // Column k holds y[8p + k], p < m; its output r is X[k + 8r].
         #pragma GCC unroll 16
@@ -236,19 +235,8 @@ inline void smallDft(In in, Out out)
                 butterflyEighths<O, T, Inv>(in(p), in(p + m), in(p + 2 * m), in(p + 3 * m), y + 4 * p);
                 continue;
             }
-            smallDft<O, T, Inv, 4>([&](int j) { return in(p + j * m); }, [&](int k, Val v) {
-                const int e = k * p * (32 / M);
-                if (e == 0)
-                    y[4 * p + k] = v;
-                else if (e == 8)
-                    y[4 * p + k] = O::template rot<Inv>(v);
-                else if (e == 4)
-                    y[4 * p + k] = scaleH(eighth<O, Inv>(v));
-                else if (e == 12)
-                    y[4 * p + k] = scaleH(threeEighths<O, Inv>(v));
-                else
-                    y[4 * p + k] = O::template mulConst<Inv>(v, kSmallW<T>.w[e & 31]);
-            });
+            smallDft<O, T, Inv, 4>([&](int j) { return in(p + j * m); },
+                                   [&](int k, Val v) { y[4 * p + k] = twiddled(v, (k * p * (32 / M)) & 31, 32); });
         }
         // Column k holds y[4p + k], p < m; its output r is X[k + 4r].
         #pragma GCC unroll 16
