@@ -241,27 +241,38 @@ typename PeerTraits<T>::Plan peerPlan(const typename PeerTraits<T>::Api* api, Se
     return reinterpret_cast<Plan>(slot);
 }
 
-// The fastest chunk of every contender of one kind and order, in seconds
-// per call, measured once and kept.
-struct Contender {
-    std::string name;
-    std::function<void()> call;
-};
-
 double secondsNow()
 {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
+// A contender runs a chunk of `calls` calls and returns its seconds per
+// call. The call is inlined into the chunk's loop (contender()), so the
+// time per call holds the transform and its own call, not an indirect call
+// of the harness: at orders 0..3, where a transform takes 3..7 ns, such a
+// call would add the same 1..3 ns to both sides and pull every ratio
+// towards 1.
+struct Contender {
+    std::string name;
+    std::function<double(long)> chunk;
+};
+
+template <class Call>
+Contender contender(std::string name, Call call)
+{
+    return {std::move(name), [call](long calls) {
+                const double t0 = secondsNow();
+                for (long i = 0; i < calls; ++i) call();
+                return (secondsNow() - t0) / double(calls);
+            }};
+}
+
+// The fastest chunk of every contender of one kind and order, in seconds
+// per call, measured once and kept.
 std::map<std::string, double> measure(std::vector<Contender> cs)
 {
-    auto chunk = [](const Contender& c, long calls) {
-        const double t0 = secondsNow();
-        for (long i = 0; i < calls; ++i) c.call();
-        return (secondsNow() - t0) / double(calls);
-    };
-    for (auto& c : cs) chunk(c, 1);  // warm up (and first-touch the buffers)
-    const double one = chunk(cs[0], 1);
+    for (auto& c : cs) c.chunk(1);  // warm up (and first-touch the buffers)
+    const double one = cs[0].chunk(1);
     const long calls = one > 30e-6 ? 1 : long(30e-6 / (one > 1e-9 ? one : 1e-9)) + 1;
     // About 0.15 s per contender in all, between 15 and 300 rounds.
     long rounds = long(0.15 / (one * double(calls)));
@@ -269,7 +280,7 @@ std::map<std::string, double> measure(std::vector<Contender> cs)
     std::map<std::string, double> best;
     for (long r = 0; r < rounds; ++r)
         for (const auto& c : cs) {
-            const double t = chunk(c, calls);
+            const double t = c.chunk(calls);
             auto it = best.find(c.name);
             if (it == best.end() || t < it->second) best[c.name] = t;
         }
@@ -286,26 +297,27 @@ std::map<std::string, double>& resultsOf(const std::string& kind, int order)
     Setup<T, Real>& s = setupOf<T, Real>(order);
     using O = Ours<T, Real>;
     std::vector<Contender> cs;
-    cs.push_back({"qsp/" + kind, [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
-    cs.push_back({"qsp_again/" + kind + "_same", [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
-    cs.push_back({"qsp/" + kind + "_inv", [&s] { O::inv(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }});
-    cs.push_back({"qsp/" + kind + "_I", [&s] {
-                      std::memcpy(s.inPlace->p, s.src->p, s.bytes);
-                      O::fwdI(s.inPlace->p, s.halved.rec, s.halved.work->p);
-                  }});
-    cs.push_back({"qsp_out_of_place/" + kind + "_I", [&s] {
-                      std::memcpy(s.scratch->p, s.src->p, s.bytes);
-                      O::fwd(s.scratch->p, s.dst->p, s.halved.rec, s.halved.work->p);
-                  }});
+    cs.push_back(contender("qsp/" + kind, [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }));
+    cs.push_back(
+        contender("qsp_again/" + kind + "_same", [&s] { O::fwd(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }));
+    cs.push_back(contender("qsp/" + kind + "_inv", [&s] { O::inv(s.src->p, s.dst->p, s.plain.rec, s.plain.work->p); }));
+    cs.push_back(contender("qsp/" + kind + "_I", [&s] {
+        std::memcpy(s.inPlace->p, s.src->p, s.bytes);
+        O::fwdI(s.inPlace->p, s.halved.rec, s.halved.work->p);
+    }));
+    cs.push_back(contender("qsp_out_of_place/" + kind + "_I", [&s] {
+        std::memcpy(s.scratch->p, s.src->p, s.bytes);
+        O::fwd(s.scratch->p, s.dst->p, s.halved.rec, s.halved.work->p);
+    }));
     for (int sse2 = 0; sse2 < 2; ++sse2) {
         const auto* api = sse2 ? PeerTraits<T>::sse2() : PeerTraits<T>::system();
         if (!api) continue;
         const std::string peer = sse2 ? "fftw_sse2/" : "fftw/";
         const auto fwd = peerPlan<T, Real>(api, s, false);
-        cs.push_back({peer + kind, [api, fwd] { api->execute(fwd); }});
+        cs.push_back(contender(peer + kind, [api, fwd] { api->execute(fwd); }));
         if constexpr (!Real) {
             const auto inv = peerPlan<T, Real>(api, s, true);
-            cs.push_back({peer + kind + "_inv", [api, inv] { api->execute(inv); }});
+            cs.push_back(contender(peer + kind + "_inv", [api, inv] { api->execute(inv); }));
         }
     }
     auto& r = all[order];
