@@ -303,6 +303,36 @@ Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s h
     return k;
 }
 
+// The factors of the L bins from k (one coarse entry for all of them) as
+// split registers: coarse[k / 1024] * fine[k % 1024], each product taken in
+// double and rounded to T, exactly as recombTwiddle forms it.
+template <class T>
+inline typename SV<T>::X recombTwiddlesSplit(const C<T>* table, Qsp64s k, Qsp64s n)
+{
+    using D = simd::Vec<double>;
+    const C<T>* fine = table + (n >> 12) + (k & 1023);
+    const C<T> a = table[k >> 10];
+    const auto ar = D::splat(double(a.re)), ai = D::splat(double(a.im));
+    // Two bins from their fine entries b0 and b1, each (re, im) in double.
+    auto two = [&](D::Reg b0, D::Reg b1, D::Reg& re, D::Reg& im) {
+        const auto br = D::zipLo(b0, b1), bi = D::zipHi(b0, b1);
+        re = D::sub(D::mul(ar, br), D::mul(ai, bi));
+        im = D::add(D::mul(ar, bi), D::mul(ai, br));
+    };
+    if constexpr (sizeof(T) == 8) {
+        typename SV<T>::X w;
+        two(D::loadu(&fine[0].re), D::loadu(&fine[1].re), w.re, w.im);
+        return w;
+    } else {
+        using F = simd::Vec<float>;
+        const auto f01 = F::loadu(&fine[0].re), f23 = F::loadu(&fine[2].re);
+        D::Reg re01, im01, re23, im23;
+        two(D::widenLow(f01), D::widenHigh(f01), re01, im01);
+        two(D::widenLow(f23), D::widenHigh(f23), re23, im23);
+        return {D::narrow(re01, re23), D::narrow(im01, im23)};
+    }
+}
+
 // The vector loop for coarse + fine tables (orders above 20): the factors
 // of kRecombChunk bins at a time are formed, each as its table entry would
 // be, in a block laid out like a whole table, and the vector loop runs on
@@ -315,22 +345,37 @@ constexpr Qsp64s kRecombChunk = 512;
 template <class T, bool Inv>
 Qsp64s ownsRecombineSplitVector(const Record* rec, const C<T>* src, C<T>* z, Qsp64s half, Qsp64s quarter, int order)
 {
-    constexpr Qsp64s L = SV<T>::L, M = kRecombChunk;
+    using K = SV<T>;
+    using V = typename K::V;
+    constexpr Qsp64s L = K::L, M = kRecombChunk;
     static_assert(M % (2 * L) == 0, "a chunk holds whole blocks of bins");
     const Qsp64s n = Qsp64s(1) << order;
     const C<T>* table = static_cast<const C<T>*>(Inv ? rec->recombInv : rec->recomb);
     alignas(64) C<T> block[M + 1];
+    const auto halfSplat = V::splat(T(0.5)), sign = V::splat(T(-0.0));
     Qsp64s k0 = 1;
     for (; k0 + M <= quarter; k0 += M) {
-        for (Qsp64s j = 1; j <= M; ++j) {
-            const C<T> w = recombTwiddle<T>(rec, table, k0 - 1 + j, n);
-            if constexpr (Inv) {
-                block[j] = w;
-            } else {
-                // v = -i W / 2, block-split (forwardWholeIndex)
-                T* f = &block->re + forwardWholeIndex<T>(j);
-                f[0] = w.im * T(0.5);
-                f[L] = -w.re * T(0.5);
+        // L bins at a time, from block index j (j - 1 a multiple of L).
+        for (Qsp64s j = 1; j <= M; j += L) {
+            const Qsp64s k = k0 - 1 + j;
+            if ((k >> 10) == ((k + L - 1) >> 10)) {
+                const typename K::X w = recombTwiddlesSplit<T>(table, k, n);
+                if constexpr (Inv)
+                    K::template store<true>(block + j, w);
+                else  // v = -i W / 2, block-split (forwardWholeIndex)
+                    K::template store<false>(block + (j - 1),
+                                             {V::mul(w.im, halfSplat), V::bitXor(V::mul(w.re, halfSplat), sign)});
+                continue;
+            }
+            for (Qsp64s l = j; l < j + L; ++l) {
+                const C<T> w = recombTwiddle<T>(rec, table, k0 - 1 + l, n);
+                if constexpr (Inv) {
+                    block[l] = w;
+                } else {
+                    T* f = &block->re + forwardWholeIndex<T>(l);
+                    f[0] = w.im * T(0.5);
+                    f[L] = -w.re * T(0.5);
+                }
             }
         }
         const Qsp64s off = k0 - 1;
