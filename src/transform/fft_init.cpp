@@ -63,10 +63,10 @@ Qsp8u* fillRealTable(fft::Record* rec, int order, const fft::Octant<T>& oct, Qsp
     };
     Qsp64s count;
     if (rec->recombSplit) {
-        const Qsp64s coarse = n >> 12;
-        for (Qsp64s h = 0; h < coarse; ++h) put(h, h << 10);
-        for (Qsp64s l = 0; l < 1024; ++l) put(coarse + l, l);
-        count = coarse + 1024;
+        const Qsp64s coarse = n >> (fft::kRecombFineBits + 2), fine = Qsp64s(1) << fft::kRecombFineBits;
+        for (Qsp64s h = 0; h < coarse; ++h) put(h, h << fft::kRecombFineBits);
+        for (Qsp64s l = 0; l < fine; ++l) put(coarse + l, l);
+        count = coarse + fine;
     } else if (!inverse) {
         // v_k = -i W^k / 2, block-split from k = 1 (see forwardWholeTwiddle);
         // the padding of the last block is 0.

@@ -139,6 +139,11 @@ inline Sizes complexSizes(int order, bool dbl)
 // factors.
 inline bool realSplitTables(int order) { return order > 20; }
 
+// The split of those tables: W^k = coarse[k >> kRecombFineBits] *
+// fine[k & (F - 1)], F = 2^kRecombFineBits fine entries after the N/(4F)
+// coarse ones.
+constexpr int kRecombFineBits = 10;
+
 inline Qsp64s realTableBytes(int order, bool dbl)
 {
     const Qsp64s n = Qsp64s(1) << order;

@@ -177,15 +177,22 @@ void ownsHalfCall(const Record* rec, const Qsp16fc* src, Qsp16fc* dst, Qsp8u* wo
 
 enum class Packed { Pack, Perm, Ccs };
 
+// The fine entries of a coarse + fine recombination table, after the
+// N / 2^(kRecombFineBits + 2) coarse ones.
+template <class T>
+inline const C<T>* recombFineOf(const C<T>* table, Qsp64s n)
+{
+    return table + (n >> (kRecombFineBits + 2));
+}
+
 // W_N^k for the recombination (0 <= k < N/4), or conj(W_N^k) from the
 // inverse table.
 template <class T>
 inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s n)
 {
     if (!rec->recombSplit) return table[k];
-    // coarse[k / 1024] * fine[k % 1024], exact products in double.
-    const C<T>* fine = table + (n >> 12);
-    const C<T> a = table[k >> 10], b = fine[k & 1023];
+    // coarse * fine, exact products in double.
+    const C<T> a = table[k >> kRecombFineBits], b = recombFineOf(table, n)[k & ((1 << kRecombFineBits) - 1)];
     const double re = double(a.re) * double(b.re) - double(a.im) * double(b.im);
     const double im = double(a.re) * double(b.im) + double(a.im) * double(b.re);
     return {T(re), T(im)};
@@ -304,14 +311,14 @@ Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s h
 }
 
 // The factors of the L bins from k (one coarse entry for all of them) as
-// split registers: coarse[k / 1024] * fine[k % 1024], each product taken in
-// double and rounded to T, exactly as recombTwiddle forms it.
+// split registers: coarse * fine, each product taken in double and rounded
+// to T, exactly as recombTwiddle forms it.
 template <class T>
 inline typename SV<T>::X recombTwiddlesSplit(const C<T>* table, Qsp64s k, Qsp64s n)
 {
     using D = simd::Vec<double>;
-    const C<T>* fine = table + (n >> 12) + (k & 1023);
-    const C<T> a = table[k >> 10];
+    const C<T>* fine = recombFineOf(table, n) + (k & ((1 << kRecombFineBits) - 1));
+    const C<T> a = table[k >> kRecombFineBits];
     const auto ar = D::splat(double(a.re)), ai = D::splat(double(a.im));
     // Two bins from their fine entries b0 and b1, each (re, im) in double.
     auto two = [&](D::Reg b0, D::Reg b1, D::Reg& re, D::Reg& im) {
@@ -358,7 +365,7 @@ Qsp64s ownsRecombineSplitVector(const Record* rec, const C<T>* src, C<T>* z, Qsp
         // L bins at a time, from block index j (j - 1 a multiple of L).
         for (Qsp64s j = 1; j <= M; j += L) {
             const Qsp64s k = k0 - 1 + j;
-            if ((k >> 10) == ((k + L - 1) >> 10)) {
+            if ((k >> kRecombFineBits) == ((k + L - 1) >> kRecombFineBits)) {
                 const typename K::X w = recombTwiddlesSplit<T>(table, k, n);
                 if constexpr (Inv)
                     K::template store<true>(block + j, w);
