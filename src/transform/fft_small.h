@@ -181,7 +181,7 @@ inline void smallDft(In in, Out out)
         if (4 * e == period) return O::template rot<Inv>(v);
         if (8 * e == period) return scaleH(eighth<O, Inv>(v));
         if (8 * e == 3 * period) return scaleH(threeEighths<O, Inv>(v));
-        return O::template mulConst<Inv>(v, period == 32 ? kSmallW<T>.w[e] : kWideW<T>.w[e]);
+        return O::template mulConst<Inv>(v, period == 32 ? smallTwiddle<T, 32>(e) : smallTwiddle<T, 128>(e));
     };
     if constexpr (M == 1) {
         out(0, in(0));

@@ -177,12 +177,19 @@ void ownsHalfCall(const Record* rec, const Qsp16fc* src, Qsp16fc* dst, Qsp8u* wo
 
 enum class Packed { Pack, Perm, Ccs };
 
-// The fine entries of a coarse + fine recombination table, after the
-// N / 2^(kRecombFineBits + 2) coarse ones.
+// The two entries of bin k in a coarse + fine recombination table, whose
+// product is the bin's factor: the coarse one, and the fine one after the
+// N / 2^(kRecombFineBits + 2) coarse entries.
 template <class T>
-inline const C<T>* recombFineOf(const C<T>* table, Qsp64s n)
+inline const C<T>* recombCoarseAt(const C<T>* table, Qsp64s k)
 {
-    return table + (n >> (kRecombFineBits + 2));
+    return table + (k >> kRecombFineBits);
+}
+
+template <class T>
+inline const C<T>* recombFineAt(const C<T>* table, Qsp64s k, Qsp64s n)
+{
+    return table + (n >> (kRecombFineBits + 2)) + (k & ((Qsp64s(1) << kRecombFineBits) - 1));
 }
 
 // W_N^k for the recombination (0 <= k < N/4), or conj(W_N^k) from the
@@ -192,7 +199,7 @@ inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s
 {
     if (!rec->recombSplit) return table[k];
     // coarse * fine, exact products in double.
-    const C<T> a = table[k >> kRecombFineBits], b = recombFineOf(table, n)[k & ((1 << kRecombFineBits) - 1)];
+    const C<T> a = *recombCoarseAt(table, k), b = *recombFineAt(table, k, n);
     const double re = double(a.re) * double(b.re) - double(a.im) * double(b.im);
     const double im = double(a.re) * double(b.im) + double(a.im) * double(b.re);
     return {T(re), T(im)};
@@ -317,8 +324,8 @@ template <class T>
 inline typename SV<T>::X recombTwiddlesSplit(const C<T>* table, Qsp64s k, Qsp64s n)
 {
     using D = simd::Vec<double>;
-    const C<T>* fine = recombFineOf(table, n) + (k & ((1 << kRecombFineBits) - 1));
-    const C<T> a = table[k >> kRecombFineBits];
+    const C<T>* fine = recombFineAt(table, k, n);
+    const C<T> a = *recombCoarseAt(table, k);
     const auto ar = D::splat(double(a.re)), ai = D::splat(double(a.im));
     // Two bins from their fine entries b0 and b1, each (re, im) in double.
     auto two = [&](D::Reg b0, D::Reg b1, D::Reg& re, D::Reg& im) {
@@ -365,25 +372,20 @@ Qsp64s ownsRecombineSplitVector(const Record* rec, const C<T>* src, C<T>* z, Qsp
         // L bins at a time, from block index j (j - 1 a multiple of L).
         for (Qsp64s j = 1; j <= M; j += L) {
             const Qsp64s k = k0 - 1 + j;
-            if ((k >> kRecombFineBits) == ((k + L - 1) >> kRecombFineBits)) {
-                const typename K::X w = recombTwiddlesSplit<T>(table, k, n);
-                if constexpr (Inv)
-                    K::template store<true>(block + j, w);
-                else  // v = -i W / 2, block-split (forwardWholeIndex)
-                    K::template store<false>(block + (j - 1),
-                                             {V::mul(w.im, halfSplat), V::bitXor(V::mul(w.re, halfSplat), sign)});
-                continue;
+            typename K::X w;
+            if (recombCoarseAt(table, k) == recombCoarseAt(table, k + L - 1)) {
+                w = recombTwiddlesSplit<T>(table, k, n);
+            } else {
+                // The group spans a coarse step: its factors one by one.
+                alignas(16) C<T> each[L];
+                for (Qsp64s l = 0; l < L; ++l) each[l] = recombTwiddle<T>(rec, table, k + l, n);
+                w = K::template load<true>(each);
             }
-            for (Qsp64s l = j; l < j + L; ++l) {
-                const C<T> w = recombTwiddle<T>(rec, table, k0 - 1 + l, n);
-                if constexpr (Inv) {
-                    block[l] = w;
-                } else {
-                    T* f = &block->re + forwardWholeIndex<T>(l);
-                    f[0] = w.im * T(0.5);
-                    f[L] = -w.re * T(0.5);
-                }
-            }
+            if constexpr (Inv)
+                K::template store<true>(block + j, w);
+            else  // v = -i W / 2, block-split (forwardWholeIndex)
+                K::template store<false>(block + (j - 1),
+                                         {V::mul(w.im, halfSplat), V::bitXor(V::mul(w.re, halfSplat), sign)});
         }
         const Qsp64s off = k0 - 1;
         ownsRecombineVector<T, Inv>(src + off, z + off, block, half - 2 * off, M + 1);
