@@ -104,3 +104,74 @@ TEST(FFTReal, EveryPrecisionOrderLayoutAndFlag)
                 checkInverse<double>(order, flag, l);
             }
 }
+
+namespace {
+
+// The spectrum of a real signal from the complex double-precision
+// transform (flag qspFftNoDiv), an independent path: the real kinds run a
+// half-length complex transform and a recombination, whose factors come
+// from coarse and fine tables above order 20.
+std::vector<LC> complexSpectrum(const std::vector<double>& x, int order)
+{
+    const size_t n = x.size();
+    fftref::Blocks b = fftref::makeBlocks(qspsFFTGetSize_C_64fc, order, 8, 0);
+    QspsFFTSpec_C_64fc* rec = nullptr;
+    EXPECT_EQ(qspsFFTInit_C_64fc(&rec, order, 8, qspAlgHintNone, b.specPtr(), b.initPtr()), qspStsOk);
+    std::vector<Qsp64fc> in(n), out(n);
+    for (size_t i = 0; i < n; ++i) in[i] = {x[i], 0.0};
+    EXPECT_EQ(qspsFFTFwd_CToC_64fc(in.data(), out.data(), rec, b.workPtr()), qspStsOk);
+    std::vector<LC> y(n / 2 + 1);
+    for (size_t k = 0; k <= n / 2; ++k) y[k] = LC(out[k].re, out[k].im);
+    return y;
+}
+
+// Forward: CCS against the complex spectrum. Both are within half the
+// bound of the exact spectrum (the complex transform measures 0.17 of the
+// bound against long double up to order 20; the double reference is nine
+// orders below the single-precision bound), so they differ by less than
+// the bound. Inverse: the CCS spectrum of that reference, rounded to T,
+// against N x (flag qspFftNoDiv); rounding the spectrum to single
+// precision adds 6e-8, within the bound. In place must equal out of place.
+template <class T>
+void checkAgainstComplex(int order, const std::vector<double>& x, const std::vector<LC>& y)
+{
+    const size_t n = x.size();
+    const double bound = fftref::bound(sizeof(T) == 8, order);
+    Built<T> b = build<T>(order, 8);
+    std::vector<T> src(n + 2), dst(n + 2), inPlace(n + 2);
+    for (size_t i = 0; i < n; ++i) src[i] = inPlace[i] = (T)x[i];
+    ASSERT_EQ(Api<T>::fwd(Layout::Ccs, src.data(), dst.data(), b.rec, b.blocks.workPtr()), qspStsOk);
+    ASSERT_EQ(Api<T>::fwdI(Layout::Ccs, inPlace.data(), b.rec, b.blocks.workPtr()), qspStsOk);
+    EXPECT_LE(fftref::relRms(y, [&](size_t k) { return LC(dst[2 * k], dst[2 * k + 1]); }), bound)
+        << "forward order " << order;
+    ASSERT_TRUE(dst == inPlace) << "forward in place differs at order " << order;
+
+    std::vector<T> spec(n + 2);
+    for (size_t k = 0; k <= n / 2; ++k) {
+        spec[2 * k] = (T)y[k].real();
+        spec[2 * k + 1] = (k == 0 || 2 * k == n) ? T(0) : (T)y[k].imag();
+    }
+    std::vector<T> back(n), backI(spec);
+    ASSERT_EQ(Api<T>::inv(Layout::Ccs, spec.data(), back.data(), b.rec, b.blocks.workPtr()), qspStsOk);
+    ASSERT_EQ(Api<T>::invI(Layout::Ccs, backI.data(), b.rec, b.blocks.workPtr()), qspStsOk);
+    std::vector<LC> ref(n);
+    for (size_t i = 0; i < n; ++i) ref[i] = LC((long double)n * x[i], 0);
+    EXPECT_LE(fftref::relRms(ref, [&](size_t i) { return LC(back[i], 0); }), bound) << "inverse order " << order;
+    for (size_t i = 0; i < n; ++i) ASSERT_EQ(back[i], backI[i]) << "inverse in place differs at order " << order;
+}
+
+}  // namespace
+
+// Orders 21 and 22, the first whose recombination factors come from
+// coarse and fine tables (too long for a long double reference).
+TEST(FFTRealHeavy, OrdersAboveTwentyAgainstTheComplexTransform)
+{
+    for (int order : {21, 22}) {
+        const auto sig = fftref::randomSignal(size_t(1) << order, true);
+        std::vector<double> x(sig.size());
+        for (size_t i = 0; i < x.size(); ++i) x[i] = (double)(float)sig[i].real();
+        const auto y = complexSpectrum(x, order);
+        checkAgainstComplex<float>(order, x, y);
+        checkAgainstComplex<double>(order, x, y);
+    }
+}
