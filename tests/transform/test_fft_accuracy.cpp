@@ -60,10 +60,11 @@ TEST(FFTAccuracy, EveryKindEveryOrderFlagAndDirection)
     qspSetDenormAreZeros(0, nullptr);
     // Every flag at every straight-line order and at every order of the
     // double-precision two-step transform (each order and scaling has a
-    // kernel of its own), at the tier boundaries and a few orders between.
+    // kernel of its own), at the tier boundaries (the large tier starts at
+    // order 20 in double precision) and a few orders between.
     for (K k : {K::C32fc, K::C32f, K::C64fc, K::C64f})
         for (int flag : {1, 2, 4, 8})
-            for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 16, 17, 18})
+            for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 16, 17, 18, 19, 20})
                 for (bool inverse : {false, true}) checkOrder(k, order, flag, inverse);
 }
 

@@ -86,12 +86,17 @@ TEST(FFTGetSize, RealSizesFollowTheFormulas)
 TEST(FFTGetSize, LargeLayoutAdditions)
 {
     // Orders 19 and above: work of at least 65536 (+64); the record holds
-    // the large layout's tables and (4 << (order-12)) + 4160 bytes more.
+    // the layout's tables and (4 << (order-12)) + 4160 bytes more. The
+    // layout is the medium tier's (the formula of orders 6..17) up to
+    // order 20 and the large tier's from 21 on.
     for (int order = 18; order <= 28; ++order) {
         int s, i, w;
         ASSERT_EQ(qspsFFTGetSize_C_32fc(order, 8, 0, &s, &i, &w), qspStsOk);
         if (order >= 19) EXPECT_GE(w, 65536 + 64);
-        const long long tables = fft::largeTableBytes<float>(order);
+        const long long n = 1LL << order;
+        const long long tables =
+            order <= 20 ? r64(8 * n + 71) + r64((n & ~3LL) + 67) : fft::largeTableBytes<float>(order);
+        if (order <= 20) EXPECT_EQ(w, r64(8 * n + 63) + 64) << order;
         EXPECT_EQ(s, (int)(tables + 256 + (order >= 19 ? (4LL << (order - 12)) + 4160 : 0))) << order;
     }
 }

@@ -24,7 +24,7 @@ double maxRelDiff(const std::vector<LC>& a, const std::vector<LC>& b, long doubl
 TEST(FFTProperties, Flag4RoundTripReturnsTheInput)
 {
     for (K k : {K::C32fc, K::C32f, K::C64fc, K::C64f})
-        for (int order : {0, 5, 6, 17, 18}) {
+        for (int order : {0, 5, 6, 17, 18, 19, 20}) {
             const auto& x = fftref::cached(order, false).x;
             Built b = build(k, order, 4);
             const auto y = run(k, true, b, run(k, false, b, x, false), false);
@@ -211,4 +211,42 @@ TEST(FFTProperties, DISABLED_RoundTripsAtTheLargestOrders)
     EXPECT_LE(e4, 2 * fftref::bound(true, r64)) << "R_64f order " << r64;
     printf("  round trips: C_32fc order %d %.3g, C_64fc order %d %.3g, R_32f order %d %.3g, R_64f order %d %.3g\n",
            c32, e1, c64, e2, r32, e3, r64, e4);
+}
+
+// The large tier at orders 21 and 22, which have no long double reference:
+// every flag's result against the unscaled one (flag 8) times the record's
+// factor, in both directions. The factor multiplies the finished values,
+// so 1/N (a power of two) gives exactly the scaled unscaled result; with
+// 1/sqrt(N) (rounded to the precision, as the record holds it) each value
+// is that product rounded once, within 2^-24 (single) or 2^-53 (double)
+// of it.
+TEST(FFTPropertiesHeavy, LargeTierFlagsScaleTheUnscaledResult)
+{
+    for (K k : {K::C32fc, K::C32f, K::C64fc, K::C64f})
+        for (int order : {21, 22}) {
+            const auto x = fftref::randomSignal(size_t(1) << order);
+            Built plain = build(k, order, 8);
+            for (bool inverse : {false, true}) {
+                const auto y8 = run(k, inverse, plain, x, false);
+                for (int flag : {1, 2, 4}) {
+                    Built b = build(k, order, flag);
+                    const auto y = run(k, inverse, b, x, false);
+                    const bool scaled = flag == 4 || (flag == 1) != inverse;
+                    const long double n = (long double)(1LL << order);
+                    const double r = 1.0 / sqrt((double)n);
+                    const long double f = !scaled      ? 1.0L
+                                          : flag != 4  ? 1.0L / n
+                                          : isDouble(k) ? (long double)r
+                                                        : (long double)(float)r;
+                    if (flag == 4) {
+                        EXPECT_LE(maxRelDiff(y, y8, f), isDouble(k) ? 1.12e-16 : 5.97e-8)
+                            << name(k) << " order " << order << (inverse ? " inverse" : " forward");
+                        continue;
+                    }
+                    for (size_t i = 0; i < x.size(); ++i)
+                        ASSERT_TRUE(y[i] == y8[i] * f) << name(k) << " order " << order << " flag " << flag
+                                                       << (inverse ? " inverse" : " forward") << " index " << i;
+                }
+            }
+        }
 }

@@ -94,9 +94,10 @@ TEST(FFTReal, EveryPrecisionOrderLayoutAndFlag)
         }
     // Every flag at every straight-line real order (0..5), at the orders
     // whose half-length transform is straight-line (7, 8) or in two steps
-    // (double precision, 9..11), and a few above.
+    // (double precision, 9..11), and a few above, up to order 20, whose
+    // half-length transform is the last of the medium tier.
     for (int flag : {1, 2, 4, 8})
-        for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 18, 19})
+        for (int order : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 18, 19, 20})
             for (Layout l : {Layout::Pack, Layout::Perm, Layout::Ccs}) {
                 checkForward<float>(order, flag, l);
                 checkInverse<float>(order, flag, l);
@@ -173,5 +174,69 @@ TEST(FFTRealHeavy, OrdersAboveTwentyAgainstTheComplexTransform)
         const auto y = complexSpectrum(x, order);
         checkAgainstComplex<float>(order, x, y);
         checkAgainstComplex<double>(order, x, y);
+    }
+}
+
+namespace {
+
+// Forward (Ccs) or inverse (from a Ccs spectrum) of one record.
+template <class T>
+std::vector<T> runCcs(int order, int flag, bool inverse, const std::vector<T>& in)
+{
+    const size_t n = size_t(1) << order;
+    Built<T> b = build<T>(order, flag);
+    std::vector<T> out(n + 2);
+    const QspStatus st = inverse ? Api<T>::inv(Layout::Ccs, in.data(), out.data(), b.rec, b.blocks.workPtr())
+                                 : Api<T>::fwd(Layout::Ccs, in.data(), out.data(), b.rec, b.blocks.workPtr());
+    EXPECT_EQ(st, qspStsOk);
+    if (inverse) out.resize(n);
+    return out;
+}
+
+template <class T>
+void checkFlagsAgainstUnscaled(int order)
+{
+    const size_t n = size_t(1) << order;
+    const auto sig = fftref::randomSignal(n, true);
+    std::vector<T> x(n);
+    for (size_t i = 0; i < n; ++i) x[i] = (T)sig[i].real();
+    for (bool inverse : {false, true}) {
+        // The inverse starts from the unscaled forward spectrum.
+        const std::vector<T> in = inverse ? runCcs<T>(order, 8, false, x) : x;
+        const std::vector<T> y8 = runCcs<T>(order, 8, inverse, in);
+        for (int flag : {1, 2, 4}) {
+            const std::vector<T> y = runCcs<T>(order, flag, inverse, in);
+            const long double f = flagScale(flag, inverse, order);
+            if (flag == 4) {
+                long double num = 0, den = 0;
+                for (size_t i = 0; i < y.size(); ++i) {
+                    const long double d = (long double)y[i] - (long double)y8[i] * f;
+                    num += d * d;
+                    den += (long double)y8[i] * f * ((long double)y8[i] * f);
+                }
+                EXPECT_LE((double)sqrtl(num / den), fftref::bound(sizeof(T) == 8, order))
+                    << "order " << order << (inverse ? " inverse" : " forward");
+                continue;
+            }
+            for (size_t i = 0; i < y.size(); ++i)
+                ASSERT_TRUE((long double)y[i] == (long double)y8[i] * f)
+                    << "order " << order << " flag " << flag << (inverse ? " inverse" : " forward") << " index " << i;
+        }
+    }
+}
+
+}  // namespace
+
+// Orders 21 and 22 (half-length transforms on the large tier, except
+// single precision's order 21), which have no long double reference: each
+// flag against the unscaled result times its factor. 1/N is a power of
+// two and scales exactly wherever it is applied; 1/sqrt(N), applied to the
+// half-length transform's values (forward) or its result (inverse), moves
+// the rounding of the recombination, which stays within the bound.
+TEST(FFTRealHeavy, FlagsAboveTwentyScaleTheUnscaledResult)
+{
+    for (int order : {21, 22}) {
+        checkFlagsAgainstUnscaled<float>(order);
+        checkFlagsAgainstUnscaled<double>(order);
     }
 }
