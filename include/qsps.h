@@ -1160,10 +1160,10 @@ QspStatus qspsRShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
  * precision, orders 6..20) or 17N (complex double, 6..19) and the work
  * buffer 8N or 16N; above those orders the record holds O(sqrt N) values
  * and the work buffer O(sqrt N) values (under 3 MB at every order), while
- * the Init buffer stays at about N bytes (single) or 2N (double). Real kinds take the sizes of the complex
- * transform of half their length plus their recombination tables; C_16fc
- * those of C_32fc plus 20 record bytes and 8N work bytes, where it keeps
- * the data as single-precision values. Every size fits in an int except
+ * the Init buffer stays at about N bytes (single) or 2N (double). Real
+ * kinds take the sizes of the complex transform of half their length plus
+ * their recombination tables; C_16fc those of C_32fc plus 20 record bytes
+ * and 8N work bytes, where it keeps the data as single-precision values. Every size fits in an int except
  * that C_16fc work buffer at order 28 (2^31 bytes): GetSize, and Init,
  * return qspStsOverflow there and write nothing.
  */
