@@ -1163,9 +1163,10 @@ QspStatus qspsRShiftC_32s_I(int val, Qsp32s* pSrcDst, int len);
  * the Init buffer stays at about N bytes (single) or 2N (double). Real
  * kinds take the sizes of the complex transform of half their length plus
  * their recombination tables; C_16fc those of C_32fc plus 20 record bytes
- * and 8N work bytes, where it keeps the data as single-precision values. Every size fits in an int except
- * that C_16fc work buffer at order 28 (2^31 bytes): GetSize, and Init,
- * return qspStsOverflow there and write nothing.
+ * and 8N work bytes, where it keeps the data as single-precision values.
+ * Every size fits in an int except that C_16fc work buffer at order 28
+ * (2^31 bytes): GetSize, and Init, return qspStsOverflow there and write
+ * nothing.
  */
 QspStatus qspsFFTGetSize_C_16fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
 QspStatus qspsFFTGetSize_C_32fc(int order, int flag, QspHintAlgorithm hint, int* pSpecSize, int* pSpecBufferSize, int* pBufferSize);
