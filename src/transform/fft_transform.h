@@ -198,7 +198,8 @@ template <class T>
 inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s n)
 {
     if (!rec->recombSplit) return table[k];
-    // coarse * fine, exact products in double.
+    // coarse * fine in double (its products exact for single-precision
+    // entries), rounded to T once.
     const C<T> a = *recombCoarseAt(table, k), b = *recombFineAt(table, k, n);
     const double re = double(a.re) * double(b.re) - double(a.im) * double(b.im);
     const double im = double(a.re) * double(b.im) + double(a.im) * double(b.re);
