@@ -292,7 +292,7 @@ void ownsLargeColumns(Src src, Mem mem, C<T>* work, const LargeTables<T>& t, int
         const C<T>* tw = t.columns;
         Qsp64s sub = r, stride = B;
         for (int i = 0; i < columnPasses(sh.rowsOrder); ++i, sub >>= 2, stride <<= 2) {
-            ownsMediumPass<T>(asConst(in), out, total, sub, stride, tw);
+            ownsMediumPass<T, false>(asConst(in), out, total, sub, stride, tw);
             tw += 3 * (sub >> 2);
             const Halves<C<T>> x = in;
             in = out;

@@ -238,7 +238,7 @@ inline __attribute__((always_inline)) void dft8(In in, Out out)
 // ---------------------------------------------------------------- passes
 
 // The first pass, source to work (N/4 values per quarter).
-template <class T, class Src>
+template <class T, bool A, class Src>
 void ownsMediumFirst(Src src, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
 {
     using K = SV<T>;
@@ -250,10 +250,10 @@ void ownsMediumFirst(Src src, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
     for (Qsp64s p = 0; p < m; p += L, tw += 3 * L) {
         X o[4];
         butterfly4<T, false>(src.load(p), src.load(p + m), src.load(p + 2 * m), src.load(p + 3 * m), o);
-        K::template store<false>(y.lo + p, o[0]);
-        K::template store<false>(q1 + p, K::template mul<false>(o[1], K::template load<false>(tw)));
-        K::template store<false>(y.hi + p, K::template mul<false>(o[2], K::template load<false>(tw + L)));
-        K::template store<false>(q3 + p, K::template mul<false>(o[3], K::template load<false>(tw + 2 * L)));
+        K::template store<false, A>(y.lo + p, o[0]);
+        K::template store<false, A>(q1 + p, K::template mul<false>(o[1], K::template load<false, A>(tw)));
+        K::template store<false, A>(y.hi + p, K::template mul<false>(o[2], K::template load<false, A>(tw + L)));
+        K::template store<false, A>(q3 + p, K::template mul<false>(o[3], K::template load<false, A>(tw + 2 * L)));
     }
 }
 
@@ -262,7 +262,7 @@ void ownsMediumFirst(Src src, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
 // self-sorting order of stride 4 after it), the second is an ordinary pass of
 // stride 4 whose factors are splatted from a table of (w1, w2), (w3, 0)
 // per p.
-template <class T, class Src>
+template <class T, bool A, class Src>
 void ownsMediumFirstT(Src src, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
 {
     using K = SV<T>;
@@ -273,9 +273,9 @@ void ownsMediumFirstT(Src src, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
     for (Qsp64s p = 0; p < m; p += L, tw += 3 * L) {
         X o[4];
         butterfly4<T, false>(src.load(p), src.load(p + m), src.load(p + 2 * m), src.load(p + 3 * m), o);
-        o[1] = K::template mul<false>(o[1], K::template load<false>(tw));
-        o[2] = K::template mul<false>(o[2], K::template load<false>(tw + L));
-        o[3] = K::template mul<false>(o[3], K::template load<false>(tw + 2 * L));
+        o[1] = K::template mul<false>(o[1], K::template load<false, A>(tw));
+        o[2] = K::template mul<false>(o[2], K::template load<false, A>(tw + L));
+        o[3] = K::template mul<false>(o[3], K::template load<false, A>(tw + 2 * L));
         // Lane l of o[k] is element k + 4 (p + l).
         C<T>* const out = at(y, 4 * p, half);
         if constexpr (L == 4) {
@@ -283,21 +283,21 @@ void ownsMediumFirstT(Src src, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
             typename V::Reg i0 = o[0].im, i1 = o[1].im, i2 = o[2].im, i3 = o[3].im;
             transpose4(r0, r1, r2, r3);
             transpose4(i0, i1, i2, i3);
-            K::template store<false>(out, X{r0, i0});
-            K::template store<false>(out + 4, X{r1, i1});
-            K::template store<false>(out + 8, X{r2, i2});
-            K::template store<false>(out + 12, X{r3, i3});
+            K::template store<false, A>(out, X{r0, i0});
+            K::template store<false, A>(out + 4, X{r1, i1});
+            K::template store<false, A>(out + 8, X{r2, i2});
+            K::template store<false, A>(out + 12, X{r3, i3});
         } else {
-            K::template store<false>(out, X{V::zipLo(o[0].re, o[1].re), V::zipLo(o[0].im, o[1].im)});
-            K::template store<false>(out + 2, X{V::zipLo(o[2].re, o[3].re), V::zipLo(o[2].im, o[3].im)});
-            K::template store<false>(out + 4, X{V::zipHi(o[0].re, o[1].re), V::zipHi(o[0].im, o[1].im)});
-            K::template store<false>(out + 6, X{V::zipHi(o[2].re, o[3].re), V::zipHi(o[2].im, o[3].im)});
+            K::template store<false, A>(out, X{V::zipLo(o[0].re, o[1].re), V::zipLo(o[0].im, o[1].im)});
+            K::template store<false, A>(out + 2, X{V::zipLo(o[2].re, o[3].re), V::zipLo(o[2].im, o[3].im)});
+            K::template store<false, A>(out + 4, X{V::zipHi(o[0].re, o[1].re), V::zipHi(o[0].im, o[1].im)});
+            K::template store<false, A>(out + 6, X{V::zipHi(o[2].re, o[3].re), V::zipHi(o[2].im, o[3].im)});
         }
     }
 }
 
 // The second pass, work quarters to the self-sorting order of stride 16.
-template <class T>
+template <class T, bool A>
 void ownsMediumSecond(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>* tw)
 {
     using K = SV<T>;
@@ -307,13 +307,13 @@ void ownsMediumSecond(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>
     const Qsp64s m = n >> 2, m2 = n >> 4, half = n >> 1;
     const C<T>* const quarter[4] = {x.lo, x.lo + m, x.hi, x.hi + m};
     for (Qsp64s p = 0; p < m2; p += L, tw += 3 * L) {
-        const X w1 = K::template load<false>(tw), w2 = K::template load<false>(tw + L),
-                w3 = K::template load<false>(tw + 2 * L);
+        const X w1 = K::template load<false, A>(tw), w2 = K::template load<false, A>(tw + L),
+                w3 = K::template load<false, A>(tw + 2 * L);
         X o[4][4];
         for (int k1 = 0; k1 < 4; ++k1) {
             const C<T>* s = quarter[k1] + p;
-            butterfly4<T, false>(K::template load<false>(s), K::template load<false>(s + m2),
-                               K::template load<false>(s + 2 * m2), K::template load<false>(s + 3 * m2), o[k1]);
+            butterfly4<T, false>(K::template load<false, A>(s), K::template load<false, A>(s + m2),
+                               K::template load<false, A>(s + 2 * m2), K::template load<false, A>(s + 3 * m2), o[k1]);
             o[k1][1] = K::template mul<false>(o[k1][1], w1);
             o[k1][2] = K::template mul<false>(o[k1][2], w2);
             o[k1][3] = K::template mul<false>(o[k1][3], w3);
@@ -329,16 +329,16 @@ void ownsMediumSecond(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>
                 typename V::Reg i0 = o[0][k2].im, i1 = o[1][k2].im, i2 = o[2][k2].im, i3 = o[3][k2].im;
                 transpose4(r0, r1, r2, r3);
                 transpose4(i0, i1, i2, i3);
-                K::template store<false>(out01 + 4 * k2, X{r0, i0});
-                K::template store<false>(out01 + 16 + 4 * k2, X{r1, i1});
-                K::template store<false>(out23 + 4 * k2, X{r2, i2});
-                K::template store<false>(out23 + 16 + 4 * k2, X{r3, i3});
+                K::template store<false, A>(out01 + 4 * k2, X{r0, i0});
+                K::template store<false, A>(out01 + 16 + 4 * k2, X{r1, i1});
+                K::template store<false, A>(out23 + 4 * k2, X{r2, i2});
+                K::template store<false, A>(out23 + 16 + 4 * k2, X{r3, i3});
             } else {
                 for (int k1 = 0; k1 < 4; k1 += 2) {
                     const X& a = o[k1][k2];
                     const X& b = o[k1 + 1][k2];
-                    K::template store<false>(out01 + k1 + 4 * k2, X{V::zipLo(a.re, b.re), V::zipLo(a.im, b.im)});
-                    K::template store<false>(out01 + 16 + k1 + 4 * k2, X{V::zipHi(a.re, b.re), V::zipHi(a.im, b.im)});
+                    K::template store<false, A>(out01 + k1 + 4 * k2, X{V::zipLo(a.re, b.re), V::zipLo(a.im, b.im)});
+                    K::template store<false, A>(out01 + 16 + k1 + 4 * k2, X{V::zipHi(a.re, b.re), V::zipHi(a.im, b.im)});
                 }
             }
         }
@@ -347,7 +347,7 @@ void ownsMediumSecond(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, const C<T>
 
 // A middle pass of sub-length sub (>= 16) and stride s (>= 16), factors
 // as complex values three per p.
-template <class T>
+template <class T, bool A>
 void ownsMediumPass(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, Qsp64s sub, Qsp64s s, const C<T>* tw)
 {
     using K = SV<T>;
@@ -371,17 +371,17 @@ void ownsMediumPass(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, Qsp64s sub, 
         C<T>* out = at(y, 4 * s * p, half);
         for (Qsp64s q = 0; q < s; q += K::L) {
             X o[4];
-            butterfly4<T, false>(K::template load<false>(a + q), K::template load<false>(b + q),
-                               K::template load<false>(c + q), K::template load<false>(d + q), o);
+            butterfly4<T, false>(K::template load<false, A>(a + q), K::template load<false, A>(b + q),
+                               K::template load<false, A>(c + q), K::template load<false, A>(d + q), o);
             if constexpr (Twiddled) {
                 o[1] = K::template mul<false>(o[1], w1);
                 o[2] = K::template mul<false>(o[2], w2);
                 o[3] = K::template mul<false>(o[3], w3);
             }
-            K::template store<false>(out + q, o[0]);
-            K::template store<false>(out + s + q, o[1]);
-            K::template store<false>(out + 2 * s + q, o[2]);
-            K::template store<false>(out + 3 * s + q, o[3]);
+            K::template store<false, A>(out + q, o[0]);
+            K::template store<false, A>(out + s + q, o[1]);
+            K::template store<false, A>(out + 2 * s + q, o[2]);
+            K::template store<false, A>(out + 3 * s + q, o[3]);
         }
     };
     row.template operator()<false>(0, tw);
@@ -390,7 +390,7 @@ void ownsMediumPass(Halves<const C<T>> x, Halves<C<T>> y, Qsp64s n, Qsp64s sub, 
 
 // The last pass, radix 4 (Bits 2) or 8 (Bits 3), stride N/4 or N/8, no
 // factors: x to the destination view, scaled by f when Scaled.
-template <class T, int Bits, bool Scaled, class Dst>
+template <class T, bool A, int Bits, bool Scaled, class Dst>
 void ownsMediumLast(Halves<const C<T>> x, Dst dst, Qsp64s n, T f)
 {
     using K = SV<T>;
@@ -406,7 +406,7 @@ void ownsMediumLast(Halves<const C<T>> x, Dst dst, Qsp64s n, T f)
     for (Qsp64s q = 0; q < s; q += K::L) {
         // Inputs j < R/2 lie in the low half.
         auto in = [&](int j) {
-            return K::template load<false>(j < R / 2 ? x.lo + q + j * s : x.hi + q + (j - R / 2) * s);
+            return K::template load<false, A>(j < R / 2 ? x.lo + q + j * s : x.hi + q + (j - R / 2) * s);
         };
         auto out = [&](int k, X v) { put(q + k * s, v); };
         if constexpr (R == 4)
@@ -425,26 +425,26 @@ void ownsMediumLast(Halves<const C<T>> x, Dst dst, Qsp64s n, T f)
 // lastInPlace says that dst may be written where buf is read (the
 // interleaved kinds), otherwise a last pass that would read buf goes
 // through work and a copy. src is read completely by the first pass.
-template <class T, class Src, class Dst>
-void ownsFftMediumRun(Src src, Halves<C<T>> buf, Dst dst, bool lastInPlace, Halves<C<T>> work, int order,
-                      const C<T>* tw, bool scaled, T f)
+template <class T, bool A, class Src, class Dst>
+void ownsFftMediumRunAs(Src src, Halves<C<T>> buf, Dst dst, bool lastInPlace, Halves<C<T>> work, int order,
+                        const C<T>* tw, bool scaled, T f)
 {
     const Qsp64s n = Qsp64s(1) << order;
     Halves<C<T>> in = buf, out = work;
     if constexpr (kTransposeFirst<T>) {
-        ownsMediumFirstT<T>(src, work, n, tw);
+        ownsMediumFirstT<T, A>(src, work, n, tw);
         tw += 3 * (n >> 2);
         in = work;
         out = buf;
     } else {
-        ownsMediumFirst<T>(src, work, n, tw);
+        ownsMediumFirst<T, A>(src, work, n, tw);
         tw += 3 * (n >> 2);
-        ownsMediumSecond<T>(asConst(work), buf, n, tw);
+        ownsMediumSecond<T, A>(asConst(work), buf, n, tw);
         tw += 3 * (n >> 4);
     }
     Qsp64s sub = mediumMidFrom<T>(order), s = n / sub;
     for (int i = 0; i < mediumMidPasses<T>(order); ++i, sub >>= 2, s <<= 2) {
-        ownsMediumPass<T>(asConst(in), out, n, sub, s, tw);
+        ownsMediumPass<T, A>(asConst(in), out, n, sub, s, tw);
         tw += 3 * (sub >> 2);
         const Halves<C<T>> t = in;
         in = out;
@@ -453,14 +453,14 @@ void ownsFftMediumRun(Src src, Halves<C<T>> buf, Dst dst, bool lastInPlace, Halv
     auto last = [&](auto view) {
         if (mediumLastBits(order) == 3) {
             if (scaled)
-                ownsMediumLast<T, 3, true>(asConst(in), view, n, f);
+                ownsMediumLast<T, A, 3, true>(asConst(in), view, n, f);
             else
-                ownsMediumLast<T, 3, false>(asConst(in), view, n, f);
+                ownsMediumLast<T, A, 3, false>(asConst(in), view, n, f);
         } else {
             if (scaled)
-                ownsMediumLast<T, 2, true>(asConst(in), view, n, f);
+                ownsMediumLast<T, A, 2, true>(asConst(in), view, n, f);
             else
-                ownsMediumLast<T, 2, false>(asConst(in), view, n, f);
+                ownsMediumLast<T, A, 2, false>(asConst(in), view, n, f);
         }
     };
     if (in.lo != buf.lo || lastInPlace) {
@@ -475,6 +475,23 @@ void ownsFftMediumRun(Src src, Halves<C<T>> buf, Dst dst, bool lastInPlace, Halv
             dst.store(i, v);
         }
     }
+}
+
+// The transform with the block loads and stores of the passes aligned when
+// every buffer they touch (both halves of buf and work) and the factor table
+// start on 16 bytes, as with buffers from qspsMalloc: the aligned passes
+// fold their loads into the arithmetic and so issue fewer instructions.
+// Otherwise (a destination at any other address) the same
+// passes run with unaligned accesses; both give bit-identical results.
+template <class T, class Src, class Dst>
+void ownsFftMediumRun(Src src, Halves<C<T>> buf, Dst dst, bool lastInPlace, Halves<C<T>> work, int order,
+                      const C<T>* tw, bool scaled, T f)
+{
+    auto bits = [](const void* p) { return reinterpret_cast<Qsp64u>(p); };
+    if (((bits(buf.lo) | bits(buf.hi) | bits(work.lo) | bits(work.hi) | bits(tw)) & 15) == 0)
+        ownsFftMediumRunAs<T, true>(src, buf, dst, lastInPlace, work, order, tw, scaled, f);
+    else
+        ownsFftMediumRunAs<T, false>(src, buf, dst, lastInPlace, work, order, tw, scaled, f);
 }
 
 }  // namespace fft

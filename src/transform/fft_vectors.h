@@ -66,23 +66,31 @@ struct SV {
     struct X {
         R re, im;
     };
-    template <bool Interleaved>
+    // Aligned says that a block-split block starts on 16 bytes: the loads
+    // may then be folded into the arithmetic that uses them.
+    template <bool Interleaved, bool Aligned = false>
     static X load(const C<T>* p)
     {
         const T* f = &p->re;
-        const R a = V::loadu(f), b = V::loadu(f + L);
-        if constexpr (Interleaved)
+        if constexpr (Interleaved) {
+            const R a = V::loadu(f), b = V::loadu(f + L);
             return {V::evens(a, b), V::odds(a, b)};
-        else
-            return {a, b};
+        } else if constexpr (Aligned) {
+            return {V::load(f), V::load(f + L)};
+        } else {
+            return {V::loadu(f), V::loadu(f + L)};
+        }
     }
-    template <bool Interleaved>
+    template <bool Interleaved, bool Aligned = false>
     static void store(C<T>* p, X v)
     {
         T* f = &p->re;
         if constexpr (Interleaved) {
             V::storeu(f, V::zipLo(v.re, v.im));
             V::storeu(f + L, V::zipHi(v.re, v.im));
+        } else if constexpr (Aligned) {
+            V::store(f, v.re);
+            V::store(f + L, v.im);
         } else {
             V::storeu(f, v.re);
             V::storeu(f + L, v.im);
