@@ -388,7 +388,7 @@ void ownsLargeRows(Mem mem, C<T>* work, const LargeTables<T>& t, int rowsOrder, 
                 // transform of z with its parts exchanged, which is the
                 // forward transform of z with the parts of its result
                 // exchanged: what Swap asks for. (1.01..1.03x faster than
-                // the radix-4 passes at orders 20..22.)
+                // the radix-4 passes at orders 20 and 21.)
                 if (fourStepOrder<T>(colsOrder)) {
                     ownsFourStepRun<Swap>(InterleavedIn<T, false>{row}, FourStepInterleaved{row}, rowWork, colsOrder,
                                           t.rows, scaled, f);
