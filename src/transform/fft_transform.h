@@ -209,9 +209,11 @@ inline C<T> recombTwiddle(const Record* rec, const C<T>* table, Qsp64s k, Qsp64s
 // The whole forward recombination table (not coarse + fine) holds, for
 // k = 1 .. N/4 - 1, v_k = -i W_N^k / 2 = (Im W/2, -Re W/2), block-split in
 // blocks of L from k = 1, so that the vector loop reads its factors with
-// plain loads and needs no halving of its own: with A = Zk + conj Zm and
+// plain loads and needs no halving of B: with A = Zk + conj Zm and
 // B = Zk - conj Zm, Xk = A/2 + v_k B. (Both scalings by 2 are exact, and
-// the products are those of the plain form, so the results are the same.)
+// the products are those of the plain form; the double-precision loop
+// forms A/2 as Zk - B/2, which saves an operation at the cost of a rounding
+// error of the size of Zk's last bit rather than of A's.)
 template <class T>
 inline Qsp64s forwardWholeIndex(Qsp64s k)
 {
@@ -253,10 +255,11 @@ Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s h
         if constexpr (!Inv) {
             // E = (Zk + conj Zm)/2, F = v_k (Zk - conj Zm), Xk = E + F, Xm = conj(E - F);
             // v_k for k and k + 1 (k odd) from one block of the table.
+            // D = Zk - conj Zm is one addsub, and E = Zk - D/2.
             auto bin = [&](Qsp64s k, double vr, double vi) {
                 const auto a = V::loadu(&src[k].re);
-                const auto cb = V::negOdd(V::loadu(&src[half - k].re));
-                const auto e = V::mul(V::add(a, cb), halfSplat), d = V::sub(a, cb);
+                const auto d = V::addsub(a, V::loadu(&src[half - k].re));
+                const auto e = V::sub(a, V::mul(d, halfSplat));
                 const auto f = V::addsub(V::mul(d, V::splat(vr)), V::mul(V::swapParts(d), V::splat(vi)));
                 V::storeu(&z[k].re, V::add(e, f));
                 V::storeu(&z[half - k].re, V::negOdd(V::sub(e, f)));
@@ -274,12 +277,17 @@ Qsp64s ownsRecombineVector(const C<T>* src, C<T>* z, const C<T>* table, Qsp64s h
             }
             return quarter;
         }
+        // (-0, +0): the sign of the real lane only.
+        const auto signRe = V::pair(-0.0, 0.0);
         for (Qsp64s k = 1; k < quarter; ++k) {
+            // E = Xk + conj Xm, i O = (Xk - conj Xm) i w; Zk = E + i O, Zm = conj(E - i O).
+            // D = Xk - conj Xm is one addsub and E = 2 Xk - D; i O =
+            // swap(D) (-wr, wr) - D wi.
             const auto a = V::loadu(&src[k].re);
-            const auto cb = V::negOdd(V::loadu(&src[half - k].re));
-            // E = Xk + conj Xm, i O = (Xk - conj Xm) i w; Zk = E + i O, Zm = conj(E - i O)
-            const auto e = V::add(a, cb), d = V::sub(a, cb);
-            const auto io = V::addsub(V::mul(d, V::splat(-table[k].im)), V::mul(V::swapParts(d), V::splat(table[k].re)));
+            const auto d = V::addsub(a, V::loadu(&src[half - k].re));
+            const auto e = V::sub(V::add(a, a), d);
+            const auto io = V::sub(V::mul(V::swapParts(d), V::bitXor(V::splat(table[k].re), signRe)),
+                                   V::mul(d, V::splat(table[k].im)));
             V::storeu(&z[k].re, V::add(e, io));
             V::storeu(&z[half - k].re, V::negOdd(V::sub(e, io)));
         }
