@@ -32,8 +32,8 @@
 //     writes column band a only, so the moves of step 2, done within each
 //     square, keep every untransformed tile readable.
 // The inverse transform is the forward one with the real and imaginary
-// parts exchanged on the way in (step 1) and out (the last pass of each
-// row transform), as in the medium tier.
+// parts exchanged on the way in (step 1) and out (by each row transform as
+// it writes its result), as in the medium tier.
 #pragma once
 #include "fft_fourstep.h"
 #include "mathfn/sincospi.h"
